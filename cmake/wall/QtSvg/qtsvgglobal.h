@@ -1,0 +1,1 @@
+#error "Only platform/ knows Qt Svg."
