@@ -1,0 +1,121 @@
+#include "platform/ui/Application.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/MenuBar.h"
+#include "platform/ui/OpenWindows.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTimer>
+
+namespace {
+
+Application* current = nullptr;
+
+// The pictures and the colours that the logic sets are made for light windows, so the palette does not follow a dark
+// desktop.
+QPalette LightPalette() {
+    QPalette palette(QColor(0xEFEFEF));
+    palette.setColor(QPalette::Window, QColor(0xEFEFEF));
+    palette.setColor(QPalette::WindowText, QColor(0x101010));
+    palette.setColor(QPalette::Base, QColor(0xFFFFFF));
+    palette.setColor(QPalette::AlternateBase, QColor(0xF1F5FA));
+    palette.setColor(QPalette::Text, QColor(0x101010));
+    palette.setColor(QPalette::Button, QColor(0xEFEFEF));
+    palette.setColor(QPalette::ButtonText, QColor(0x101010));
+    palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFFF));
+    palette.setColor(QPalette::ToolTipText, QColor(0x101010));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x8A8A8A));
+    palette.setColor(QPalette::Highlight, QColor(0xC3D2EC));
+    palette.setColor(QPalette::HighlightedText, QColor(0x101010));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x9A9A9A));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x9A9A9A));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x9A9A9A));
+    return palette;
+}
+
+}  // namespace
+
+Application::Application() {
+    current = this;
+    events::Reset();
+}
+
+Application::~Application() {
+    events::Silence();
+    OpenWindows::DestroyAll();
+    current = nullptr;
+}
+
+Application& Application::Current() {
+    if (current == nullptr) {
+        throw NilObjectException();
+    }
+    return *current;
+}
+
+void Application::SetMenuBar(MenuBar& menuBar) {
+    menuBar_ = &menuBar;
+}
+
+MenuBar& Application::ApplicationMenuBar() const {
+    if (menuBar_ == nullptr) {
+        throw NilObjectException();
+    }
+    return *menuBar_;
+}
+
+void Application::AddMenuHandler(const QString& itemName, std::function<bool()> handler) {
+    menuHandlers_[itemName] = std::move(handler);
+}
+
+const std::function<bool()>* Application::MenuHandler(const QString& itemName) const {
+    const auto found = menuHandlers_.find(itemName);
+    return found == menuHandlers_.end() ? nullptr : &found->second;
+}
+
+void Application::DoEvents() {
+    QCoreApplication::processEvents();
+    events::UnwindIfQuitting();
+}
+
+void Quit(int exitStatus) {
+    throw QuitRequest{exitStatus};
+}
+
+struct Runtime::State {
+    State(int& argc, char** argv) : application(argc, argv) {}
+    QApplication application;
+};
+
+Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, argv)) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(LightPalette());
+    QFont font = QApplication::font();
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+    // The layer itself decides when the run ends: a message box may be the only window for a while.
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Runtime::~Runtime() = default;
+
+int Runtime::Run(Application& application) {
+    Start(application);
+    return QApplication::exec();
+}
+
+// Activate is posted before Open runs, so that it also comes when Open waits in a loop of its own. It does not wait
+// for the window system to call a window active: without a window manager that never happens.
+void Runtime::Start(Application& application) {
+    QTimer::singleShot(0, qApp, [&application] {
+        QTimer::singleShot(0, qApp, [&application] { events::Raise(application.Activate); });
+        events::Raise(application.Open);
+    });
+}
+
+bool Runtime::HasQuit() {
+    return events::QuitPending();
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+class MenuBar;
+class MenuItem;
+
+// The one application object. A program derives its own from it; the object must outlive Runtime::Run.
+class Application {
+public:
+    Application();
+    virtual ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // The object made last. There must be one.
+    [[nodiscard]] static Application& Current();
+
+    // Raised once, from the event loop's first turn.
+    std::function<void()> Open;
+    // Raised once, with the first turn of any event loop after Open began, also when that is the loop of a message
+    // box that Open itself shows.
+    std::function<void()> Activate;
+
+    void SetMenuBar(MenuBar& menuBar);
+    [[nodiscard]] MenuBar& ApplicationMenuBar() const;
+
+    // Binds a menu item, by its name, to what it does. A name that no item has is bound and never reached. The
+    // handler's result says whether it wants the command to end there; nothing else listens for commands.
+    void AddMenuHandler(const QString& itemName, std::function<bool()> handler);
+    [[nodiscard]] const std::function<bool()>* MenuHandler(const QString& itemName) const;
+
+    // Serves the events that are waiting and returns.
+    void DoEvents();
+
+private:
+    MenuBar* menuBar_ = nullptr;
+    std::map<QString, std::function<bool()>> menuHandlers_;
+};
+
+// Ends the run with the given exit status. Nothing after it in the handler, or in the methods that called it, takes
+// effect, also when the call comes from inside a message box's event loop: the handlers unwind and no further event
+// is raised.
+[[noreturn]] void Quit(int exitStatus);
+
+// The process's connection to the window system. Made first in main and destroyed last.
+class Runtime {
+public:
+    Runtime(int& argc, char** argv);
+    ~Runtime();
+    Runtime(const Runtime&) = delete;
+    Runtime& operator=(const Runtime&) = delete;
+
+    // Raises Open and Activate and serves events until Quit is called or the last window is closed. The result is the
+    // exit status.
+    int Run(Application& application);
+
+    // Makes Open and Activate come with the next turns of an event loop that somebody else runs.
+    static void Start(Application& application);
+
+    // True once Quit was called by the handlers of the current application object.
+    [[nodiscard]] static bool HasQuit();
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};

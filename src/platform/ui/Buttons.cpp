@@ -1,0 +1,43 @@
+#include "platform/ui/Buttons.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Fonts.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+
+PushButton::PushButton() : Control(new QPushButton) {
+    auto* button = static_cast<QPushButton*>(Widget());
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [this] { events::Raise(Action); });
+}
+
+void PushButton::SetCaption(const QString& caption) {
+    static_cast<QPushButton*>(Widget())->setText(caption);
+}
+
+void PushButton::SetTextSize(int pixels) {
+    Widget()->setFont(fonts::WithSize(Widget()->font(), pixels));
+}
+
+CheckBox::CheckBox() : Control(new QCheckBox) {
+    auto* box = static_cast<QCheckBox*>(Widget());
+    QObject::connect(box, &QCheckBox::toggled, box, [this] { events::Raise(Action); });
+}
+
+void CheckBox::SetCaption(const QString& caption) {
+    static_cast<QCheckBox*>(Widget())->setText(caption);
+}
+
+void CheckBox::SetTextSize(int pixels) {
+    Widget()->setFont(fonts::WithSize(Widget()->font(), pixels));
+}
+
+bool CheckBox::Value() const {
+    return static_cast<QCheckBox*>(Widget())->isChecked();
+}
+
+void CheckBox::SetValue(bool value) {
+    static_cast<QCheckBox*>(Widget())->setChecked(value);
+    events::UnwindIfQuitting();
+}

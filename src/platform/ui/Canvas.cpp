@@ -1,0 +1,63 @@
+#include "platform/ui/Canvas.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Picture.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWidget>
+
+class Canvas::Surface : public QWidget {
+public:
+    explicit Surface(Canvas& owner) : owner_(owner) { setFocusPolicy(Qt::NoFocus); }
+
+    [[nodiscard]] const Picture* Backdrop() const { return backdrop_; }
+
+    void SetBackdrop(const Picture* picture) {
+        if (backdrop_ != picture) {
+            backdrop_ = picture;
+            update();
+        }
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        if (backdrop_ != nullptr) {
+            QPainter painter(this);
+            backdrop_->Draw(painter, rect());
+        }
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            pressed_ = events::Raise(owner_.MouseDown, event->position().toPoint().x(), event->position().toPoint().y());
+        }
+    }
+
+    // The second click of a double click is a press like any other.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && pressed_) {
+            pressed_ = false;
+            events::Raise(owner_.MouseUp, event->position().toPoint().x(), event->position().toPoint().y());
+        }
+    }
+
+    void leaveEvent(QEvent* /*event*/) override { events::Raise(owner_.MouseExit); }
+
+private:
+    Canvas& owner_;
+    const Picture* backdrop_ = nullptr;
+    bool pressed_ = false;
+};
+
+Canvas::Canvas() : Control(new Surface(*this)), surface_(static_cast<Surface*>(Widget())) {}
+
+const Picture* Canvas::Backdrop() const {
+    return surface_->Backdrop();
+}
+
+void Canvas::SetBackdrop(const Picture* picture) {
+    surface_->SetBackdrop(picture);
+}

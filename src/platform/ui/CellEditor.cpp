@@ -1,0 +1,128 @@
+#include "platform/ui/CellEditor.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Keys.h"
+#include "platform/ui/ListModel.h"
+#include "platform/ui/ListView.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+// The field itself. Keys reach the list's CellKeyDown before the field; text that an input method or a dead key
+// composes comes the same way.
+class CellEditor::Line : public QLineEdit {
+public:
+    Line(CellEditor& owner, QWidget* parent) : QLineEdit(parent), owner_(owner) {
+        setObjectName(QStringLiteral("CellEditor"));
+        setFrame(false);
+        setTextMargins(3, 0, 3, 0);
+        hide();
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        // The tab keys would move the focus before keyPressEvent sees them.
+        if (event->type() == QEvent::KeyPress) {
+            auto* key = static_cast<QKeyEvent*>(event);
+            if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+                keyPressEvent(key);
+                return true;
+            }
+        }
+        return QLineEdit::event(event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        const QString key = KeyText(*event);
+        if (!key.isEmpty() && Offer(key)) {
+            return;
+        }
+        switch (event->key()) {
+            case Qt::Key_Return:
+            case Qt::Key_Enter:
+            case Qt::Key_Escape:
+            case Qt::Key_Tab:
+            case Qt::Key_Backtab:
+                owner_.End();
+                break;
+            default:
+                QLineEdit::keyPressEvent(event);
+        }
+    }
+
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        if (!event->commitString().isEmpty() && Offer(event->commitString())) {
+            QInputMethodEvent taken;
+            QLineEdit::inputMethodEvent(&taken);
+            return;
+        }
+        QLineEdit::inputMethodEvent(event);
+    }
+
+    // The field's own context menu takes the focus for a while and gives it back.
+    void focusOutEvent(QFocusEvent* event) override {
+        QLineEdit::focusOutEvent(event);
+        const QWidget* popup = QApplication::activePopupWidget();
+        const bool ownMenu = event->reason() == Qt::PopupFocusReason && popup != nullptr && popup->parent() == this;
+        if (!ownMenu) {
+            owner_.End();
+        }
+    }
+
+private:
+    // The handler may end this edit and start another one.
+    bool Offer(const QString& key) {
+        return events::Raise(owner_.list_.CellKeyDown, owner_.row_, owner_.column_, key);
+    }
+
+    CellEditor& owner_;
+};
+
+CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view)
+    : list_(list), model_(model), view_(view), line_(new Line(*this, view.viewport())),
+      field_(std::make_unique<EditField>(line_)) {}
+
+void CellEditor::Begin(int row, int column) {
+    End();
+    row_ = row;
+    column_ = column;
+    view_.scrollTo(model_.index(row, column));
+    line_->setFont(view_.font());
+    line_->setText(model_.Text(row, column));
+    FollowCell();
+    line_->show();
+    line_->selectAll();
+    line_->setFocus(Qt::OtherFocusReason);
+}
+
+void CellEditor::End() {
+    if (!IsEditing()) {
+        return;
+    }
+    const int row = row_;
+    const int column = column_;
+    const QString text = line_->text();
+    Abandon();
+    model_.SetText(row, column, text);
+    events::Raise(list_.CellLostFocus, row, column);
+}
+
+void CellEditor::Abandon() {
+    if (!IsEditing()) {
+        return;
+    }
+    row_ = -1;
+    column_ = -1;
+    // The list keeps the focus, so that its keys go on working, unless another control has taken it.
+    if (line_->hasFocus()) {
+        view_.setFocus(Qt::OtherFocusReason);
+    }
+    line_->hide();
+}
+
+void CellEditor::FollowCell() {
+    if (IsEditing()) {
+        line_->setGeometry(view_.visualRect(model_.index(row_, column_)));
+    }
+}

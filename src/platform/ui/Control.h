@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/ui/Layout.h"
+
+#include <QString>
+
+#include <memory>
+
+class QWidget;
+class Window;
+
+// How one row of a window's layout table places a control.
+struct ControlPlace {
+    const char* name;        // the control's name, which tests and assistive tools find it by
+    const char* description; // what a screen reader calls it; empty for what is only decoration
+    Rect rect;               // in the window's own coordinates, also for a control inside another
+    Locks locks;
+};
+
+// What every control has: a place in its window, visibility, an enabled state and the keyboard focus.
+//
+// A control is a member of its window and is placed once, in the window's constructor. It follows its parent, which
+// is another control or the window itself; see Layout.h. Left, Top, Width and Height are in the window's coordinates.
+class Control {
+public:
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    // Puts the control into the window, inside the parent control if there is one. Controls placed later lie above.
+    void Place(Window& window, Control* parent, const ControlPlace& place);
+
+    [[nodiscard]] QString Name() const;
+
+    [[nodiscard]] int Left() const;
+    [[nodiscard]] int Top() const;
+    [[nodiscard]] int Width() const;
+    [[nodiscard]] int Height() const;
+    void SetLeft(int left);
+    void SetTop(int top);
+    void SetWidth(int width);
+    void SetHeight(int height);
+
+    // The control's own setting: true also while a parent hides it.
+    [[nodiscard]] bool Visible() const;
+    void SetVisible(bool visible);
+    [[nodiscard]] bool Enabled() const;
+    void SetEnabled(bool enabled);
+
+    // Gives the control the keyboard focus. Nothing happens on a control that takes none.
+    void SetFocus();
+
+    // For the layer itself: the parent's frame changed.
+    void FollowFrame(const FrameChange& parent);
+
+protected:
+    // Takes ownership of the widget that shows the control.
+    explicit Control(QWidget* widget);
+
+    [[nodiscard]] QWidget* Widget() const;
+
+private:
+    friend class Window;
+    struct State;
+
+    void MoveTo(const Rect& rect);
+    void ShowAt(const Rect& rect);
+
+    std::unique_ptr<State> state_;
+};

@@ -1,0 +1,264 @@
+#include "platform/ui/EditField.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Fonts.h"
+
+#include <QCoreApplication>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QTextBlockFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <utility>
+
+// What a field of one line and a field of many have in common.
+class EditField::Editor {
+public:
+    Editor() = default;
+    virtual ~Editor() = default;
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    virtual void SetLook(const EditFieldLook& look) = 0;
+    virtual void SetTextSize(int pixels) = 0;
+    [[nodiscard]] virtual QString Text() const = 0;
+    virtual void SetText(const QString& text) = 0;
+    [[nodiscard]] virtual int SelStart() const = 0;
+    [[nodiscard]] virtual int SelLength() const = 0;
+    virtual void Select(int start, int length) = 0;
+    [[nodiscard]] virtual QTextEdit* Styled() const { return nullptr; }
+};
+
+namespace {
+
+// Tells the field of the focus that its widget gets and loses. The widget takes each event first, so that what the
+// handler selects stands. A mouse press that brings the focus would set the caret next and drop that selection, so
+// the selection is put back after it.
+class FocusEvents : public QObject {
+public:
+    FocusEvents(QWidget* widget, EditField& field) : QObject(widget), field_(field) { widget->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::FocusIn:
+                broughtByMouse_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+                PassOn(watched, event);
+                events::Raise(field_.GotFocus);
+                return true;
+            case QEvent::FocusOut:
+                PassOn(watched, event);
+                events::Raise(field_.LostFocus);
+                return true;
+            case QEvent::MouseButtonPress:
+                if (std::exchange(broughtByMouse_, false) && field_.SelLength() > 0) {
+                    PassOnKeepingSelection(watched, event);
+                    return true;
+                }
+                return false;
+            default:
+                return false;
+        }
+    }
+
+private:
+    void PassOn(QObject* watched, QEvent* event) {
+        watched->removeEventFilter(this);
+        QCoreApplication::sendEvent(watched, event);
+        watched->installEventFilter(this);
+    }
+
+    void PassOnKeepingSelection(QObject* watched, QEvent* event) {
+        const int start = field_.SelStart();
+        const int length = field_.SelLength();
+        PassOn(watched, event);
+        field_.SetSelStart(start);
+        field_.SetSelLength(length);
+    }
+
+    EditField& field_;
+    bool broughtByMouse_ = false;
+};
+
+QPalette FieldPalette(QPalette palette, const EditFieldLook& look) {
+    palette.setColor(QPalette::Text, QColor(QRgb(look.textColor.rgb)));
+    palette.setColor(QPalette::Base, QColor(QRgb(look.backColor.rgb)));
+    return palette;
+}
+
+QFont FieldFont(const QFont& base, const EditFieldLook& look) {
+    QFont font = fonts::WithSize(base, look.textSize);
+    font.setBold(look.bold);
+    return font;
+}
+
+Qt::Alignment QtAlignment(TextAlignment alignment) {
+    switch (alignment) {
+        case TextAlignment::Centre:
+            return Qt::AlignHCenter;
+        case TextAlignment::Right:
+            return Qt::AlignRight;
+        case TextAlignment::Left:
+            break;
+    }
+    return Qt::AlignLeft;
+}
+
+}  // namespace
+
+class EditField::LineEditor : public Editor {
+public:
+    explicit LineEditor(QLineEdit* edit) : edit_(edit) {}
+
+    void SetLook(const EditFieldLook& look) override {
+        edit_->setPalette(FieldPalette(edit_->palette(), look));
+        edit_->setFont(FieldFont(edit_->font(), look));
+        edit_->setAlignment(QtAlignment(look.alignment) | Qt::AlignVCenter);
+        edit_->setReadOnly(look.readOnly);
+        edit_->setFrame(look.border);
+    }
+    void SetTextSize(int pixels) override { edit_->setFont(fonts::WithSize(edit_->font(), pixels)); }
+    [[nodiscard]] QString Text() const override { return edit_->text(); }
+    void SetText(const QString& text) override {
+        if (edit_->text() != text) {
+            edit_->setText(text);
+        }
+    }
+    [[nodiscard]] int SelStart() const override {
+        return edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
+    }
+    [[nodiscard]] int SelLength() const override { return edit_->selectionLength(); }
+    void Select(int start, int length) override {
+        if (length > 0) {
+            edit_->setSelection(start, length);
+        } else {
+            edit_->setCursorPosition(start);
+        }
+    }
+
+private:
+    QLineEdit* edit_;
+};
+
+class EditField::TextEditor : public Editor {
+public:
+    explicit TextEditor(QTextEdit* edit) : edit_(edit) {
+        edit_->setFrameShape(QFrame::NoFrame);
+        edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        edit_->document()->setDocumentMargin(1);
+    }
+
+    void SetLook(const EditFieldLook& look) override {
+        look_ = look;
+        edit_->setPalette(FieldPalette(edit_->palette(), look));
+        edit_->setFont(FieldFont(edit_->font(), look));
+        edit_->setReadOnly(look.readOnly);
+        edit_->setLineWrapMode(look.wraps ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
+        if (look.readOnly) {
+            edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        }
+        FormatLines();
+    }
+    void SetTextSize(int pixels) override {
+        look_.textSize = pixels;
+        edit_->setFont(fonts::WithSize(edit_->font(), pixels));
+        FormatLines();
+    }
+    [[nodiscard]] QString Text() const override { return edit_->toPlainText(); }
+    void SetText(const QString& text) override {
+        QString lines = text;
+        lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+        if (edit_->toPlainText() == lines) {
+            return;
+        }
+        edit_->setCurrentCharFormat({});
+        edit_->setPlainText(lines);
+        FormatLines();
+    }
+    [[nodiscard]] int SelStart() const override { return edit_->textCursor().selectionStart(); }
+    [[nodiscard]] int SelLength() const override {
+        const QTextCursor cursor = edit_->textCursor();
+        return cursor.selectionEnd() - cursor.selectionStart();
+    }
+    void Select(int start, int length) override {
+        const int last = edit_->document()->characterCount() - 1;
+        QTextCursor cursor = edit_->textCursor();
+        cursor.setPosition(std::clamp(start, 0, last));
+        cursor.setPosition(std::clamp(start + length, 0, last), QTextCursor::KeepAnchor);
+        edit_->setTextCursor(cursor);
+    }
+    [[nodiscard]] QTextEdit* Styled() const override { return edit_; }
+
+private:
+    void FormatLines() {
+        QTextBlockFormat format;
+        format.setAlignment(QtAlignment(look_.alignment));
+        const int textHeight = edit_->font().pixelSize();
+        format.setLineHeight(textHeight + textHeight / 5.0, QTextBlockFormat::FixedHeight);
+        const QSignalBlocker quiet(edit_);
+        QTextCursor all(edit_->document());
+        all.select(QTextCursor::Document);
+        all.mergeBlockFormat(format);
+    }
+
+    QTextEdit* edit_;
+    EditFieldLook look_;
+};
+
+EditField::EditField(Lines lines) : Control(lines == Lines::One ? static_cast<QWidget*>(new QLineEdit) : new QTextEdit) {
+    new FocusEvents(Widget(), *this);
+    if (lines == Lines::One) {
+        auto* edit = static_cast<QLineEdit*>(Widget());
+        editor_ = std::make_unique<LineEditor>(edit);
+        QObject::connect(edit, &QLineEdit::textChanged, edit, [this] { events::Raise(TextChange); });
+    } else {
+        auto* edit = static_cast<QTextEdit*>(Widget());
+        editor_ = std::make_unique<TextEditor>(edit);
+        QObject::connect(edit, &QTextEdit::textChanged, edit, [this] { events::Raise(TextChange); });
+    }
+}
+
+EditField::EditField(QLineEdit* cellEditor) : Control(cellEditor), editor_(std::make_unique<LineEditor>(cellEditor)) {}
+
+EditField::~EditField() = default;
+
+void EditField::SetLook(const EditFieldLook& look) {
+    editor_->SetLook(look);
+}
+
+void EditField::SetTextSize(int pixels) {
+    editor_->SetTextSize(pixels);
+}
+
+QString EditField::Text() const {
+    return editor_->Text();
+}
+
+void EditField::SetText(const QString& text) {
+    editor_->SetText(text);
+    events::UnwindIfQuitting();
+}
+
+int EditField::SelStart() const {
+    return editor_->SelStart();
+}
+
+void EditField::SetSelStart(int position) {
+    editor_->Select(position, 0);
+}
+
+int EditField::SelLength() const {
+    return editor_->SelLength();
+}
+
+void EditField::SetSelLength(int length) {
+    editor_->Select(editor_->SelStart(), length);
+}
+
+StyledText EditField::StyledText() {
+    return ::StyledText(editor_->Styled());
+}

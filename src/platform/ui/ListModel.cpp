@@ -1,0 +1,185 @@
+#include "platform/ui/ListModel.h"
+
+#include "platform/ui/Picture.h"
+
+#include <algorithm>
+#include <numeric>
+
+ListModel::ListModel() = default;
+
+void ListModel::Append(const QString& text) {
+    Row& row = rows_.emplace_back();
+    row.cells.resize(static_cast<std::size_t>(columnCount_));
+    row.cells[0] = text;
+}
+
+void ListModel::Remove(int row) {
+    beginRemoveRows({}, row, row);
+    rows_.erase(rows_.begin() + row);
+    --announced_;
+    endRemoveRows();
+}
+
+void ListModel::Clear() {
+    if (rows_.empty()) {
+        return;
+    }
+    beginResetModel();
+    rows_.clear();
+    announced_ = 0;
+    endResetModel();
+}
+
+void ListModel::Announce() {
+    if (HasUnannounced()) {
+        beginInsertRows({}, announced_, RowCount() - 1);
+        announced_ = RowCount();
+        endInsertRows();
+    }
+}
+
+QString ListModel::Text(int row, int column) const {
+    const std::vector<QString>& cells = rows_[static_cast<std::size_t>(row)].cells;
+    const auto place = static_cast<std::size_t>(column);
+    return place < cells.size() ? cells[place] : QString();
+}
+
+void ListModel::SetText(int row, int column, const QString& text) {
+    std::vector<QString>& cells = rows_[static_cast<std::size_t>(row)].cells;
+    const auto place = static_cast<std::size_t>(column);
+    if (place >= cells.size()) {
+        cells.resize(place + 1);
+    }
+    if (cells[place] != text) {
+        cells[place] = text;
+        CellChanged(row, column);
+    }
+}
+
+void ListModel::SetRowPicture(int row, const Picture* picture) {
+    Row& changed = rows_[static_cast<std::size_t>(row)];
+    if (changed.picture != picture) {
+        changed.picture = picture;
+        CellChanged(row, 0);
+    }
+}
+
+void ListModel::SetColumnCount(int count) {
+    if (count == columnCount_) {
+        return;
+    }
+    if (count > columnCount_) {
+        beginInsertColumns({}, columnCount_, count - 1);
+        columnCount_ = count;
+        endInsertColumns();
+    } else {
+        beginRemoveColumns({}, count, columnCount_ - 1);
+        columnCount_ = count;
+        endRemoveColumns();
+    }
+}
+
+QString ListModel::Heading(int column) const {
+    const auto place = static_cast<std::size_t>(column);
+    return place < columns_.size() ? columns_[place].heading : QString();
+}
+
+void ListModel::SetHeading(int column, const QString& text) {
+    Column& changed = ColumnAt(column);
+    if (changed.heading != text) {
+        changed.heading = text;
+        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+    }
+}
+
+CellAlignment ListModel::Alignment(int column) const {
+    const auto place = static_cast<std::size_t>(column);
+    return place < columns_.size() ? columns_[place].alignment : CellAlignment::Left;
+}
+
+void ListModel::SetAlignment(int column, CellAlignment alignment) {
+    ColumnAt(column).alignment = alignment;
+}
+
+void ListModel::Sort(const std::function<bool(int row1, int row2)>& isBefore) {
+    std::vector<int> order(rows_.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), isBefore);
+
+    Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    std::vector<Row> sorted;
+    sorted.reserve(rows_.size());
+    std::vector<int> newPlace(rows_.size());
+    for (const int row : order) {
+        newPlace[static_cast<std::size_t>(row)] = static_cast<int>(sorted.size());
+        sorted.push_back(std::move(rows_[static_cast<std::size_t>(row)]));
+    }
+    rows_ = std::move(sorted);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex& old : before) {
+        after.append(index(newPlace[static_cast<std::size_t>(old.row())], old.column()));
+    }
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : announced_;
+}
+
+int ListModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columnCount_;
+}
+
+// The picture of a row has words for a screen reader; on the screen it is drawn by ListPainter.
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || index.row() >= RowCount()) {
+        return {};
+    }
+    const QString text = Text(index.row(), index.column());
+    if (role == Qt::AccessibleTextRole && index.column() == 0) {
+        const Picture* picture = RowPicture(index.row());
+        const QString words = picture == nullptr ? QString() : picture->Description();
+        return text.isEmpty() || words.isEmpty() ? words + text : words + QStringLiteral(", ") + text;
+    }
+    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) {
+        return text;
+    }
+    return {};
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return Heading(section);
+    }
+    if (role == Qt::TextAlignmentRole) {
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    return {};
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+}
+
+void ListModel::CellChanged(int row, int column) {
+    if (row < announced_ && column < columnCount_) {
+        const QModelIndex changed = index(row, column);
+        Q_EMIT dataChanged(changed, changed);
+    }
+}
+
+ListModel::Column& ListModel::ColumnAt(int column) {
+    const auto place = static_cast<std::size_t>(column);
+    if (place >= columns_.size()) {
+        columns_.resize(place + 1);
+    }
+    return columns_[place];
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/ui/Listbox.h"
+
+#include <QAbstractTableModel>
+
+#include <functional>
+#include <vector>
+
+// For the layer itself: the rows of a list. Rows that were added are told to the view late, by Announce, so that
+// filling a list costs one notification and not one a row.
+class ListModel : public QAbstractTableModel {
+public:
+    ListModel();
+
+    // Rows and columns of all functions below must exist; the row may be one that is not announced yet.
+    [[nodiscard]] int RowCount() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] int ColumnCount() const { return columnCount_; }
+
+    void Append(const QString& text);
+    void Remove(int row);
+    void Clear();
+    // Tells the view of the rows that were appended since.
+    void Announce();
+    [[nodiscard]] bool HasUnannounced() const { return announced_ != RowCount(); }
+
+    [[nodiscard]] QString Text(int row, int column) const;
+    void SetText(int row, int column, const QString& text);
+    [[nodiscard]] int Tag(int row) const { return rows_[static_cast<std::size_t>(row)].tag; }
+    void SetTag(int row, int tag) { rows_[static_cast<std::size_t>(row)].tag = tag; }
+    [[nodiscard]] const Picture* RowPicture(int row) const { return rows_[static_cast<std::size_t>(row)].picture; }
+    void SetRowPicture(int row, const Picture* picture);
+
+    void SetColumnCount(int count);
+    [[nodiscard]] QString Heading(int column) const;
+    void SetHeading(int column, const QString& text);
+    [[nodiscard]] CellAlignment Alignment(int column) const;
+    void SetAlignment(int column, CellAlignment alignment);
+
+    // Puts the rows in the order of the comparison, which is given row numbers as they were before. Rows that compare
+    // equal keep their order. Views keep each row's selection.
+    void Sort(const std::function<bool(int row1, int row2)>& isBefore);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    struct Row {
+        std::vector<QString> cells;
+        int tag = 0;
+        const Picture* picture = nullptr;
+    };
+    struct Column {
+        QString heading;
+        CellAlignment alignment = CellAlignment::Left;
+    };
+
+    void CellChanged(int row, int column);
+    Column& ColumnAt(int column);
+
+    std::vector<Row> rows_;
+    std::vector<Column> columns_;
+    int columnCount_ = 1;
+    int announced_ = 0;
+};

@@ -1,0 +1,120 @@
+#include "platform/ui/ListPainter.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Graphics.h"
+#include "platform/ui/ListModel.h"
+#include "platform/ui/Picture.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int textMargin = 3;
+
+// A painter whose origin is the corner of the cell and that draws nothing outside it, for the time of one event.
+class CellScope {
+public:
+    CellScope(QPainter& painter, const QRect& cell) : painter_(painter) {
+        painter_.save();
+        painter_.translate(cell.topLeft());
+        painter_.setClipRect(0, 0, cell.width(), cell.height(), Qt::IntersectClip);
+    }
+    ~CellScope() { painter_.restore(); }
+    CellScope(const CellScope&) = delete;
+    CellScope& operator=(const CellScope&) = delete;
+
+private:
+    QPainter& painter_;
+};
+
+int QtAlignment(CellAlignment alignment) {
+    switch (alignment) {
+        case CellAlignment::Centre:
+            return Qt::AlignHCenter;
+        case CellAlignment::Right:
+            return Qt::AlignRight;
+        case CellAlignment::Left:
+            break;
+    }
+    return Qt::AlignLeft;
+}
+
+}  // namespace
+
+ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), list_(list), model_(model) {}
+
+void ListPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const int row = index.row();
+    if (row >= model_.RowCount()) {
+        return;
+    }
+    const bool selected = (option.state & QStyle::State_Selected) != 0;
+    const bool ownGround = PaintGround(*painter, option.rect, row, index.column());
+    if (selected && !ownGround) {
+        painter->fillRect(option.rect, option.palette.color(QPalette::Highlight));
+    }
+    if (index.column() == 0) {
+        PaintPicture(*painter, option.rect, row);
+    }
+    PaintText(*painter, option, row, index.column());
+}
+
+void ListPainter::PaintEmpty(QPainter& painter, const QRect& cell, int row, int column) const {
+    PaintGround(painter, cell, row, column);
+}
+
+bool ListPainter::PaintGround(QPainter& painter, const QRect& cell, int row, int column) const {
+    painter.fillRect(cell, Qt::white);
+    if (!list_.CellBackgroundPaint) {
+        return false;
+    }
+    const CellScope scope(painter, cell);
+    Graphics graphics(painter, cell.width(), cell.height());
+    return events::Raise(list_.CellBackgroundPaint, graphics, row, column);
+}
+
+// Without a text beside it the picture stands in the middle of its column.
+void ListPainter::PaintPicture(QPainter& painter, const QRect& cell, int row) const {
+    const Picture* picture = model_.RowPicture(row);
+    if (picture == nullptr) {
+        return;
+    }
+    const QSize size = picture->Size();
+    const bool alone = model_.Text(row, 0).isEmpty();
+    const int left = alone ? qMax(0, (cell.width() - size.width()) / 2) : 0;
+    const int top = (cell.height() - size.height()) / 2;
+    const CellScope scope(painter, cell);
+    picture->Draw(painter, QRect(QPoint(left, top), size));
+}
+
+void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& option, int row, int column) const {
+    const QString text = model_.Text(row, column);
+    if (text.isEmpty()) {
+        return;
+    }
+    const QRect& cell = option.rect;
+    const CellScope scope(painter, cell);
+    painter.setFont(option.font);
+    painter.setPen(option.palette.color(QPalette::Text));
+
+    int left = textMargin;
+    if (const Picture* picture = column == 0 ? model_.RowPicture(row) : nullptr; picture != nullptr) {
+        left += picture->Size().width();
+    }
+    Graphics graphics(painter, cell.width(), cell.height());
+    if (list_.CellTextPaint &&
+        events::Raise(list_.CellTextPaint, graphics, row, column, left,
+                      (cell.height() + painter.fontMetrics().ascent()) / 2)) {
+        return;
+    }
+    const CellAlignment alignment = model_.Alignment(column);
+    const QRect line = alignment == CellAlignment::Centre
+                           ? QRect(0, 0, cell.width(), cell.height())
+                           : QRect(left, 0, cell.width() - left - textMargin, cell.height());
+    // A line break in a text is shown as a blank: a row has one line.
+    QString shown = text;
+    shown.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+    painter.drawText(line, QtAlignment(alignment) | Qt::AlignVCenter | Qt::TextSingleLine,
+                     painter.fontMetrics().elidedText(shown, Qt::ElideRight, line.width()));
+}

@@ -1,0 +1,295 @@
+#include "platform/ui/ListView.h"
+
+#include "platform/ui/ColumnWidths.h"
+#include "platform/ui/Events.h"
+#include "platform/ui/Keys.h"
+#include "platform/ui/ListModel.h"
+#include "platform/ui/ListPainter.h"
+#include "platform/ui/ListSorting.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int headingHeight = 22;
+
+void PrepareHeaders(QHeaderView& rows, QHeaderView& columns) {
+    rows.hide();
+    rows.setSectionResizeMode(QHeaderView::Fixed);
+    rows.setMinimumSectionSize(1);
+    columns.setSectionResizeMode(QHeaderView::Fixed);
+    columns.setMinimumSectionSize(0);
+    columns.setFixedHeight(headingHeight);
+    columns.setHighlightSections(false);
+    columns.setSectionsClickable(false);
+    columns.hide();
+}
+
+DragItem DragOf(const QMimeData& data) {
+    return DragItem{data.text()};
+}
+
+}  // namespace
+
+ListView::ListView(Listbox& list, ListModel& model)
+    : list_(list), model_(model), painter_(new ListPainter(list, model, this)), editor_(list, model, *this) {
+    setModel(&model);
+    setItemDelegate(painter_);
+    PrepareHeaders(*verticalHeader(), *horizontalHeader());
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setDropIndicatorShown(false);
+    // Qt's own item drops are not used, and the move cursor would promise what does not happen.
+    setDefaultDropAction(Qt::CopyAction);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { events::Raise(list_.Change); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) { SortBy(column); });
+}
+
+void ListView::SetColumnWidths(const QString& widths) {
+    columnWidths_ = widths;
+    FitColumns();
+}
+
+void ListView::FitColumns() {
+    const std::vector<int> widths = ColumnWidths(columnWidths_, model_.ColumnCount(), viewport()->width());
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        setColumnWidth(static_cast<int>(column), widths[column]);
+    }
+    editor_.FollowCell();
+}
+
+void ListView::SetRowHeight(int height) {
+    const int rowHeight = height > 0 ? height : fontMetrics().height() + 4;
+    if (verticalHeader()->defaultSectionSize() != rowHeight) {
+        verticalHeader()->setDefaultSectionSize(rowHeight);
+    }
+}
+
+int ListView::RowHeight() const {
+    return verticalHeader()->defaultSectionSize();
+}
+
+int ListView::FirstSelectedRow() const {
+    int first = -1;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        first = first < 0 ? range.top() : std::min(first, range.top());
+    }
+    return first;
+}
+
+int ListView::SelectedCount() const {
+    int count = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        count += range.height();
+    }
+    return count;
+}
+
+// The list stays where it is scrolled to: only the user's own keys bring the current row into view.
+void ListView::SelectOnly(int row) {
+    const bool scrolls = hasAutoScroll();
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(model_.index(row, std::max(0, currentIndex().column())),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    setAutoScroll(scrolls);
+}
+
+void ListView::SelectNone() {
+    selectionModel()->clearSelection();
+    selectionModel()->clearCurrentIndex();
+}
+
+void ListView::SetHeadingsSort(bool sort) {
+    horizontalHeader()->setSectionsClickable(sort);
+}
+
+void ListView::ForgetSorting() {
+    sortedColumn_ = -1;
+    horizontalHeader()->setSortIndicatorShown(false);
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    PaintEmptyRows();
+}
+
+void ListView::PaintEmptyRows() {
+    const int bottom = viewport()->height();
+    const int height = RowHeight();
+    int row = model_.rowCount();
+    int top = row == 0 ? 0 : rowViewportPosition(row - 1) + height;
+    if (top >= bottom) {
+        return;
+    }
+    QPainter painter(viewport());
+    for (; top < bottom; top += height, ++row) {
+        for (int column = 0; column < model_.ColumnCount(); ++column) {
+            painter_->PaintEmpty(painter, QRect(columnViewportPosition(column), top, columnWidth(column), height), row,
+                                 column);
+        }
+    }
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    FitColumns();
+}
+
+void ListView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    editor_.FollowCell();
+}
+
+bool ListView::TakePress(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const QPoint inList = InList(place);
+    if (event->button() != Qt::LeftButton) {
+        return false;
+    }
+    if (events::Raise(list_.MouseDown, inList.x(), inList.y())) {
+        return true;
+    }
+    const QModelIndex cell = indexAt(place);
+    if (!cell.isValid()) {
+        return false;
+    }
+    const QRect rect = visualRect(cell);
+    return events::Raise(list_.CellClick, cell.row(), cell.column(), place.x() - rect.left(), place.y() - rect.top());
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+    if (!TakePress(event)) {
+        QTableView::mousePressEvent(event);
+    }
+}
+
+// The second press of a double click is a click on the cell like the first.
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (TakePress(event)) {
+        return;
+    }
+    QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+        events::Raise(list_.DoubleClick);
+    }
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+    const QString key = KeyText(*event);
+    if (!key.isEmpty() && events::Raise(list_.KeyDown, key)) {
+        return;
+    }
+    // Qt would copy the text of the current cell, which is no command of a list here.
+    if (event->matches(QKeySequence::Copy)) {
+        event->ignore();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+// Typing looks in the first column that has texts: column 0 may hold nothing but pictures.
+void ListView::keyboardSearch(const QString& search) {
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.data().toString().isEmpty()) {
+        for (int column = 0; column < model_.ColumnCount(); ++column) {
+            if (!model_.Text(current.row(), column).isEmpty()) {
+                selectionModel()->setCurrentIndex(model_.index(current.row(), column), QItemSelectionModel::NoUpdate);
+                break;
+            }
+        }
+    }
+    QTableView::keyboardSearch(search);
+}
+
+// In a table Home and End go along the row; in a list they go to its ends.
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const int last = model_.rowCount() - 1;
+    const int column = std::max(0, currentIndex().column());
+    if (last >= 0 && action == MoveHome) {
+        return model_.index(0, column);
+    }
+    if (last >= 0 && action == MoveEnd) {
+        return model_.index(last, column);
+    }
+    return QTableView::moveCursor(action, modifiers);
+}
+
+void ListView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    events::Raise(list_.GotFocus);
+}
+
+void ListView::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    events::Raise(list_.LostFocus);
+}
+
+void ListView::startDrag(Qt::DropActions /*actions*/) {
+    const int row = currentIndex().row();
+    DragItem item;
+    if (row < 0 || !list_.DragRow || !events::Raise(list_.DragRow, item, row)) {
+        return;
+    }
+    auto* carried = new QMimeData;
+    carried->setText(item.text);
+    auto* drag = new QDrag(this);
+    drag->setMimeData(carried);
+    drag->exec(Qt::CopyAction);
+}
+
+void ListView::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasText()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ListView::dragMoveEvent(QDragMoveEvent* event) {
+    const QPoint place = InList(event->position().toPoint());
+    const bool refused =
+        !event->mimeData()->hasText() ||
+        events::Raise(list_.DragOver, place.x(), place.y(), DragOf(*event->mimeData()), 0);
+    if (refused) {
+        event->ignore();
+    } else {
+        event->acceptProposedAction();
+    }
+}
+
+void ListView::dropEvent(QDropEvent* event) {
+    if (event->mimeData()->hasText()) {
+        event->acceptProposedAction();
+        events::Raise(list_.DropObject, DragOf(*event->mimeData()), 0);
+    }
+}
+
+void ListView::SortBy(int column) {
+    editor_.End();
+    model_.Announce();
+    const bool again = column == sortedColumn_ && sortOrder_ == Qt::AscendingOrder;
+    sortOrder_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortedColumn_ = column;
+    model_.Sort(RowOrder(list_, model_, column, sortOrder_));
+    horizontalHeader()->setSortIndicator(column, sortOrder_);
+    horizontalHeader()->setSortIndicatorShown(true);
+    viewport()->update();
+}
+
+QPoint ListView::InList(const QPoint& inViewport) const {
+    return viewport()->mapTo(this, inViewport);
+}

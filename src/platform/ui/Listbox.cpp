@@ -1,0 +1,215 @@
+#include "platform/ui/Listbox.h"
+
+#include "platform/base/Exceptions.h"
+#include "platform/ui/Events.h"
+#include "platform/ui/Fonts.h"
+#include "platform/ui/ListModel.h"
+#include "platform/ui/ListView.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTimer>
+
+namespace {
+
+void CheckRow(const ListModel& model, int row) {
+    if (row < 0 || row >= model.RowCount()) {
+        throw OutOfBoundsException(QStringLiteral("There is no row %1 in the list").arg(row));
+    }
+}
+
+void CheckColumn(int column, int count) {
+    if (column < 0 || column >= count) {
+        throw OutOfBoundsException(QStringLiteral("There is no column %1 in the list").arg(column));
+    }
+}
+
+}  // namespace
+
+Listbox::Listbox() : Listbox(std::make_unique<ListModel>()) {}
+
+Listbox::Listbox(std::unique_ptr<ListModel> model)
+    : Control(new ListView(*this, *model)), model_(std::move(model)), view_(static_cast<ListView*>(Widget())) {}
+
+Listbox::~Listbox() {
+    view_->Editor().Abandon();
+}
+
+void Listbox::SetLook(const ListboxLook& look) {
+    view_->horizontalHeader()->setVisible(look.hasHeading);
+    view_->setSelectionMode(look.selection == RowSelection::Multiple ? QAbstractItemView::ExtendedSelection
+                                                                     : QAbstractItemView::SingleSelection);
+    view_->setDragEnabled(look.enableDrag);
+    view_->setVerticalScrollBarPolicy(look.autoHideScrollbars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOn);
+    view_->SetHeadingsSort(look.headingsSort);
+}
+
+int Listbox::ListIndex() const {
+    return view_->FirstSelectedRow();
+}
+
+void Listbox::SetListIndex(int row) {
+    if (row < 0) {
+        view_->SelectNone();
+    } else {
+        CheckRow(*model_, row);
+        model_->Announce();
+        view_->SelectOnly(row);
+    }
+    events::UnwindIfQuitting();
+}
+
+int Listbox::SelCount() const {
+    return view_->SelectedCount();
+}
+
+bool Listbox::Selected(int row) const {
+    CheckRow(*model_, row);
+    return view_->selectionModel()->isRowSelected(row, {});
+}
+
+int Listbox::ListCount() const {
+    return model_->RowCount();
+}
+
+int Listbox::LastIndex() const {
+    return model_->RowCount() - 1;
+}
+
+// The screen learns of new rows with the next turn of the event loop at the latest.
+void Listbox::AddRow(const QString& text) {
+    if (!model_->HasUnannounced()) {
+        QTimer::singleShot(0, view_, [this] { model_->Announce(); });
+    }
+    model_->Append(text);
+}
+
+void Listbox::RemoveRow(int row) {
+    CheckRow(*model_, row);
+    view_->Editor().End();
+    view_->Editor().Abandon();
+    CheckRow(*model_, row);
+    model_->Announce();
+    model_->Remove(row);
+    events::UnwindIfQuitting();
+}
+
+// A reset takes the selection away without a word, so the change is raised here.
+void Listbox::DeleteAllRows() {
+    view_->Editor().End();
+    view_->Editor().Abandon();
+    const bool hadSelection = ListIndex() >= 0;
+    model_->Clear();
+    view_->ForgetSorting();
+    if (hadSelection) {
+        events::Raise(Change);
+    }
+    events::UnwindIfQuitting();
+}
+
+QString Listbox::Cell(int row, int column) const {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    return model_->Text(row, column);
+}
+
+void Listbox::SetCell(int row, int column, const QString& text) {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetText(row, column, text);
+}
+
+int Listbox::CellTag(int row, int column) const {
+    CheckRow(*model_, row);
+    CheckColumn(column, 1);
+    return model_->Tag(row);
+}
+
+void Listbox::SetCellTag(int row, int column, int tag) {
+    CheckRow(*model_, row);
+    CheckColumn(column, 1);
+    model_->SetTag(row, tag);
+}
+
+const Picture* Listbox::RowPicture(int row) const {
+    CheckRow(*model_, row);
+    return model_->RowPicture(row);
+}
+
+void Listbox::SetRowPicture(int row, const Picture* picture) {
+    CheckRow(*model_, row);
+    model_->SetRowPicture(row, picture);
+}
+
+void Listbox::SetColumnCount(int count) {
+    model_->SetColumnCount(count);
+    view_->FitColumns();
+}
+
+int Listbox::ColumnCount() const {
+    return model_->ColumnCount();
+}
+
+void Listbox::SetColumnWidths(const QString& widths) {
+    view_->SetColumnWidths(widths);
+}
+
+void Listbox::SetColumnAlignment(int column, CellAlignment alignment) {
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetAlignment(column, alignment);
+}
+
+QString Listbox::Heading(int column) const {
+    CheckColumn(column, model_->ColumnCount());
+    return model_->Heading(column);
+}
+
+void Listbox::SetHeading(int column, const QString& text) {
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetHeading(column, text);
+}
+
+void Listbox::SetDefaultRowHeight(int height) {
+    view_->SetRowHeight(height);
+}
+
+void Listbox::SetTextSize(int pixels) {
+    view_->setFont(fonts::WithSize(view_->font(), pixels));
+    view_->horizontalHeader()->setFont(view_->font());
+}
+
+void Listbox::SetTextFont(const QString& family) {
+    view_->setFont(fonts::WithFamily(view_->font(), family));
+}
+
+int Listbox::ScrollPosition() const {
+    return view_->verticalScrollBar()->value() / view_->RowHeight();
+}
+
+void Listbox::SetScrollPosition(int row) {
+    model_->Announce();
+    // The bar learns its range with the layout, which otherwise comes with the next paint.
+    view_->updateGeometries();
+    view_->verticalScrollBar()->setValue(row * view_->RowHeight());
+}
+
+int Listbox::RowFromXY(int x, int y) const {
+    return view_->rowAt(view_->viewport()->mapFrom(view_, QPoint(x, y)).y());
+}
+
+void Listbox::EditCell(int row, int column) {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    model_->Announce();
+    view_->Editor().Begin(row, column);
+    events::UnwindIfQuitting();
+}
+
+EditField* Listbox::ActiveCell() const {
+    return view_->Editor().Field();
+}
+
+void Listbox::AcceptTextDrop() {
+    view_->setAcceptDrops(true);
+    view_->viewport()->setAcceptDrops(true);
+}

@@ -1,0 +1,78 @@
+#include "platform/ui/MsgBox.h"
+
+#include "platform/ui/Events.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+constexpr int ok = 1;
+constexpr int yes = 6;
+constexpr int no = 7;
+
+struct Form {
+    int code;
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton preferred;
+};
+
+constexpr int plain = 0;
+
+const Form forms[] = {
+    {plain, QMessageBox::NoIcon, QMessageBox::Ok, QMessageBox::Ok},
+    {16, QMessageBox::Critical, QMessageBox::Ok, QMessageBox::Ok},
+    {36, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes},
+    {48, QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok},
+    {64, QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok},
+};
+
+const Form& FormOf(int code) {
+    for (const Form& form : forms) {
+        if (form.code == code) {
+            return form;
+        }
+    }
+    return forms[0];
+}
+
+}  // namespace
+
+void MsgBox(const QString& text) {
+    MsgBox(text, plain, QString());
+}
+
+int MsgBox(const QString& text, int code, const QString& title) {
+    events::UnwindIfQuitting();
+    const Form& form = FormOf(code);
+    // Without a title of its own the box is named for the window that it lies over.
+    QWidget* const below = QApplication::activeWindow();
+    QString caption = title;
+    if (caption.isEmpty()) {
+        caption = below == nullptr ? QApplication::applicationDisplayName() : below->windowTitle();
+    }
+
+    QMessageBox box(below);
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(form.icon);
+    box.setWindowTitle(caption);
+    box.setText(text);
+    box.setStandardButtons(form.buttons);
+    box.setDefaultButton(form.preferred);
+    if ((form.buttons & QMessageBox::No) != 0) {
+        box.setEscapeButton(QMessageBox::No);
+    }
+    const int answer = box.exec();
+    events::UnwindIfQuitting();
+    switch (answer) {
+        case QMessageBox::Yes:
+            return yes;
+        case QMessageBox::No:
+            return no;
+        default:
+            return ok;
+    }
+}

@@ -1,0 +1,82 @@
+#include "platform/ui/OpenWindows.h"
+
+#include "platform/ui/Events.h"
+#include "platform/ui/Window.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace {
+
+std::map<std::type_index, std::unique_ptr<Window>>& Open() {
+    static std::map<std::type_index, std::unique_ptr<Window>> windows;
+    return windows;
+}
+
+std::vector<std::unique_ptr<Window>>& Closed() {
+    static std::vector<std::unique_ptr<Window>> windows;
+    return windows;
+}
+
+}  // namespace
+
+namespace OpenWindows {
+
+Window* Find(std::type_index type) {
+    const auto found = Open().find(type);
+    return found == Open().end() ? nullptr : found->second.get();
+}
+
+Window& Add(std::type_index type, std::unique_ptr<Window> window) {
+    return *(Open()[type] = std::move(window));
+}
+
+void ShowSoon(Window& window) {
+    QTimer::singleShot(0, window.Widget(), [&window] {
+        if (!events::QuitPending()) {
+            window.Widget()->show();
+        }
+    });
+}
+
+void Release(Window& window) {
+    const auto found =
+        std::find_if(Open().begin(), Open().end(), [&](const auto& entry) { return entry.second.get() == &window; });
+    if (found != Open().end()) {
+        Closed().push_back(std::move(found->second));
+        Open().erase(found);
+    }
+    QTimer::singleShot(0, qApp, [] { Closed().clear(); });
+    if (Open().empty() && !events::QuitPending()) {
+        events::BeginQuit(0);
+    }
+}
+
+Window* Frontmost() {
+    const QWidget* active = QApplication::activeWindow();
+    for (const auto& [type, window] : Open()) {
+        if (window->Widget() == active) {
+            return window.get();
+        }
+    }
+    return nullptr;
+}
+
+Window* Any() {
+    return Open().empty() ? nullptr : Open().begin()->second.get();
+}
+
+void DestroyAll() {
+    for (const auto& entry : Open()) {
+        entry.second->Widget()->hide();
+    }
+    Closed().clear();
+    Open().clear();
+}
+
+}  // namespace OpenWindows

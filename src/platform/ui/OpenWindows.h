@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <typeindex>
+
+class Window;
+
+// For the layer itself: the implicit windows that are open, at most one of each class.
+namespace OpenWindows {
+
+[[nodiscard]] Window* Find(std::type_index type);
+Window& Add(std::type_index type, std::unique_ptr<Window> window);
+
+// Shows the window with the next turn of the event loop, when the handler that made it has placed and filled it.
+void ShowSoon(Window& window);
+
+// The window was closed. It is destroyed with the next turn of the event loop, because the handler that closed it may
+// be one of its own. Without another open window the run ends.
+void Release(Window& window);
+
+// The window in front, or null.
+[[nodiscard]] Window* Frontmost();
+// One of the open windows, or null when there is none.
+[[nodiscard]] Window* Any();
+
+void DestroyAll();
+
+}  // namespace OpenWindows

@@ -1,0 +1,46 @@
+#include "platform/ui/Shapes.h"
+
+#include <QPainter>
+#include <QWidget>
+
+class Shape::Surface : public QWidget {
+public:
+    Surface() { setFocusPolicy(Qt::NoFocus); }
+
+    void SetLook(const ShapeLook& look) {
+        look_ = look;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setBrush(QColor(QRgb(look_.fill.rgb)));
+        if (look_.borderWidth > 0) {
+            painter.setPen(QPen(QColor(QRgb(look_.border.rgb)), look_.borderWidth));
+        } else {
+            painter.setPen(Qt::NoPen);
+        }
+        if (look_.arc == 0) {
+            painter.drawRect(rect());
+            return;
+        }
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double inset = look_.borderWidth / 2.0;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), look_.arc / 2.0,
+                                look_.arc / 2.0);
+    }
+
+private:
+    ShapeLook look_;
+};
+
+Shape::Shape() : Control(new Surface), surface_(static_cast<Surface*>(Widget())) {}
+
+void Shape::SetLook(const ShapeLook& look) {
+    surface_->SetLook(look);
+}
+
+Separator::Separator() {
+    SetLook({Color{0xA0A6B2}, Color{}, 0, 0});
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <typeindex>
+
+class Control;
+class MenuBar;
+class QWidget;
+struct FrameChange;
+
+// The fixed properties of a window, as its layout gives them. Sizes are of the content, without the frame and the
+// menu bar.
+struct WindowProperties {
+    const char* name;
+    QString title;
+    int width;
+    int height;
+    int minWidth;
+    int minHeight;
+    int maxWidth;
+    int maxHeight;
+    bool resizeable;
+};
+
+// A window of the program: a content area with controls, a menu bar above it if it has one, and a frame.
+//
+// Each class of windows has one implicit instance. The first reference to it creates the window, raises its OpenEvent
+// and shows it with the next turn of the event loop; closing ends it, and the next reference makes a new one.
+class Window {
+public:
+    explicit Window(const WindowProperties& properties);
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    // Raised once when the instance was created.
+    std::function<void()> OpenEvent;
+    // Raised once when the window is closed by the user or by Close, after an edit in a cell has ended.
+    std::function<void()> CloseEvent;
+    // Raised before a menu shows or a shortcut is taken while this window is in front.
+    std::function<void()> EnableMenuItems;
+
+    // Position of the frame on the screen and size of the content, in logical pixels. The values go to the window
+    // system as they are, bounded only by the minimum and maximum size, and are read back as it left them.
+    [[nodiscard]] int Top() const;
+    [[nodiscard]] int Left() const;
+    [[nodiscard]] int Width() const;
+    [[nodiscard]] int Height() const;
+    void SetTop(int top);
+    void SetLeft(int left);
+    void SetWidth(int width);
+    void SetHeight(int height);
+
+    [[nodiscard]] QString Title() const;
+    void SetTitle(const QString& title);
+    void SetMenuBar(MenuBar& menuBar);
+
+    // Shows the window or brings it to the front.
+    void Show();
+    void Minimize();
+    void Maximize();
+    // Raises CloseEvent and ends the instance. The object itself lives until the running handlers have returned.
+    void Close();
+
+    // The implicit instance of W.
+    template <class W>
+    static W& Implicit() {
+        return static_cast<W&>(Implicit(typeid(W), [] { return std::unique_ptr<Window>(new W); }));
+    }
+
+    // For the layer itself.
+    [[nodiscard]] QWidget* Widget() const;
+
+private:
+    friend class Control;
+    class Frame;
+    struct State;
+
+    static Window& Implicit(std::type_index type, const std::function<std::unique_ptr<Window>()>& create);
+    [[nodiscard]] QWidget* Content() const;
+    void Adopt(Control& control);
+    void ContentResized(const FrameChange& change);
+    void OnClosed();
+
+    std::unique_ptr<State> state_;
+};
