@@ -1,0 +1,42 @@
+#include "browser/Rating.h"
+
+#include "platform/base/Text.h"
+#include "platform/ui/Picture.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int highestRating = 5;
+
+using RatingPictures = std::array<const Picture*, highestRating + 1>;
+
+// Looked up once: a list asks for these with every row of every fill.
+const RatingPictures& Pictures() {
+    static const RatingPictures pictures = [] {
+        RatingPictures named{};
+        for (int rating = 0; rating <= highestRating; ++rating) {
+            named[static_cast<std::size_t>(rating)] = NamedPicture(QStringLiteral("Rating") + CStr(rating));
+        }
+        return named;
+    }();
+    return pictures;
+}
+
+}  // namespace
+
+int RatingAt(int x) {
+    constexpr int upperEnds[] = {3, 12, 24, 36, 48};
+    return static_cast<int>(std::upper_bound(std::begin(upperEnds), std::end(upperEnds), x) - std::begin(upperEnds));
+}
+
+const Picture* RatingPicture(int userRating) {
+    const bool rated = userRating >= 1 && userRating <= highestRating;
+    return Pictures()[rated ? static_cast<std::size_t>(userRating) : 0];
+}
+
+int RatingOfPicture(const Picture* picture) {
+    const auto found = std::find(Pictures().begin(), Pictures().end(), picture);
+    return found == Pictures().end() ? 0 : static_cast<int>(found - Pictures().begin());
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/database/Database.h"
+#include "platform/ui/Application.h"
+
+#include <QString>
+
+// The application object: the values that outlive one operation, and every operation on the drink store.
+//
+// The class is one; each method is defined in the folder of its subsystem, in the file named for the job. A method
+// with a Boolean result returns true when the work was done; on false it has told the user, and the caller stops
+// without a further word. No database connection outlives a method.
+class App : public Application {
+public:
+    App();
+
+    // The one application object.
+    static App& Instance();
+
+    // The product's name: title of the main window and name of the user's data folder.
+    const QString DrinkAppName = QStringLiteral("Tipplewise Pourbook");
+
+    // A developer's switch, fixed at build time: work on a plain "drinkdb.rsd" in the current folder.
+    static constexpr bool InDevelopment = false;
+
+    // False until the application is activated. Until then the change handlers of the lists and of the search box
+    // ignore what start-up does to their controls.
+    bool AppLoaded = false;
+
+    // False for a build whose executable ends in "exe", which keeps its files elsewhere.
+    bool OnMac = true;
+
+    // The option codes as they were read from the Setup row. The flags are what counts afterwards.
+    QString UserOptions;
+    const QString OptionCode_ViewRatings = QStringLiteral("V01");
+    const QString OptionCode_ViewGlass = QStringLiteral("V02");
+    const QString OptionCode_ViewDrinkType = QStringLiteral("V03");
+    const QString OptionCode_CheckForAppUpdates = QStringLiteral("V04");
+    const QString OptionCode_ShareRatings = QStringLiteral("V05");
+    bool Option_ViewRatings = false;
+    bool Option_ViewGlass = false;
+    bool Option_ViewDrinkType = false;
+    bool Option_CheckForAppUpdates = false;
+    bool Option_ShareRatings = false;
+
+    // store/
+    // Connects a new database object to the user's file. The caller closes it.
+    [[nodiscard]] bool GetDatabase(REALSQLDatabase& db);
+    // Gives a user without a data folder a copy of the seed database.
+    void ProvisionDatabase();
+    // The option codes of the flags that are on, as the Setup row keeps them.
+    [[nodiscard]] QString EncodeOptions() const;
+    // Sets the flags, and the captions of the View menu, from UserOptions.
+    void DecodeOptions();
+
+    // shell/
+    void InitApp();
+    // Binds the menu items to their handlers. Once, before the event loop starts.
+    void _ApplicationAddMenuHandlers(); // NOLINT(bugprone-reserved-identifier): the field's name for it
+
+    // browser/
+    bool FillDrinkList();
+    void SetupDrinkList();
+    void ShowDrinkInfo(int DrinkID);
+    void ClearDrinkInfo();
+    void SetRating(int DrinkID, int Rating);
+    // NOLINTBEGIN(bugprone-reserved-identifier): handlers of menu items carry their item's name after an underscore
+    bool _View_RatingsColumn_Action();
+    bool _View_DrinkTypeColumn_Action();
+    bool _View_GlassColumn_Action();
+    bool _File_Print_Action();
+    bool _Edit_CopyRecipe_Action();
+    bool _Window_Minimize_Action();
+    bool _Window_Zoom_Action();
+    // NOLINTEND(bugprone-reserved-identifier)
+
+    // bar/
+    [[nodiscard]] bool FillInBarList();
+
+    // drinklists/
+    [[nodiscard]] bool FillDrinkListsList();
+
+private:
+    void Event_Open();
+    void Event_Activate();
+};

@@ -1,0 +1,111 @@
+#include "shell/App.h"
+
+#include "platform/base/Text.h"
+#include "platform/files/FolderItem.h"
+#include "platform/ui/MenuBar.h"
+#include "platform/ui/MsgBox.h"
+#include "shell/MainWindow.h"
+
+namespace {
+
+constexpr int currentDBVersion = 2;
+
+// The row of a user who has never closed the main window has no width.
+bool IsFirstRun(const RecordSet& setup) {
+    return setup.Field("AppWidth").IsNull();
+}
+
+RecordSet SelectSetup(REALSQLDatabase& db) {
+    const RecordSet setup = db.SQLSelect(QStringLiteral("SELECT * FROM Setup"));
+    if (db.Error()) {
+        MsgBox(QStringLiteral("An error occurred getting the user's setup information: ") + db.ErrorMessage());
+        db.Close();
+        Quit(0);
+    }
+    return setup;
+}
+
+void RestoreWindow(MainWindow& window, const RecordSet& setup) {
+    window.SetTop(setup.Field("AppTop").IntegerValue());
+    window.SetLeft(setup.Field("AppLeft").IntegerValue());
+    window.SetWidth(setup.Field("AppWidth").IntegerValue());
+    window.SetHeight(setup.Field("AppHeight").IntegerValue());
+}
+
+void PlaceWindowForFirstRun(MainWindow& window) {
+    window.SetWidth(750);
+    window.SetHeight(600);
+    window.SetTop(100);
+    window.SetLeft(100);
+}
+
+void Move(Control& control, const Rect& place) {
+    control.SetLeft(place.left);
+    control.SetTop(place.top);
+    control.SetWidth(place.width);
+    control.SetHeight(place.height);
+}
+
+// The frames of the two lists differ by platform. The list of ingredients reaches down to the tools, which stand at
+// the bottom of the window that was just restored.
+void PlaceSidePanel(MainWindow& window, bool onMac) {
+    const int tools = window.SideTools.Top();
+    if (onMac) {
+        Move(window.DrinkListsList, {-2, 76, 227, 129});
+        Move(window.InBarList, {-2, 233, 227, tools - 233 + 1});
+    } else {
+        Move(window.DrinkListsList, {-1, 81, 202, 118});
+        Move(window.InBarList, {-1, 238, 202, tools - 238 - 2});
+    }
+}
+
+}  // namespace
+
+// The order of the steps matters: the options decide on the columns that the fills use, and the side panel is placed
+// for the size that the window has been given.
+void App::InitApp() {
+    if constexpr (!InDevelopment) {
+        OnMac = Right(Uppercase(ExecutableFile().AbsolutePath()), 3) != QLatin1String("EXE");
+        ProvisionDatabase();
+    }
+
+    REALSQLDatabase db;
+    if (!GetDatabase(db)) {
+        Quit(0);
+    }
+    const RecordSet setup = SelectSetup(db);
+    if constexpr (!InDevelopment) {
+        if (setup.Field("DBVersion").IntegerValue() != currentDBVersion) {
+            MsgBox(QStringLiteral("Your drink library was made by another version of %1, and this version cannot "
+                                  "open it.  Nothing in it was changed.")
+                       .arg(DrinkAppName));
+            db.Close();
+            Quit(0);
+        }
+    }
+
+    MainWindow& window = MainWindow::Instance();
+    if (IsFirstRun(setup)) {
+        UserOptions = OptionCode_ViewRatings + OptionCode_ShareRatings + OptionCode_CheckForAppUpdates;
+        PlaceWindowForFirstRun(window);
+    } else {
+        RestoreWindow(window, setup);
+        UserOptions = setup.Field("UserOptions").StringValue();
+    }
+    db.Close();
+
+    if (!OnMac) {
+        ApplicationMenuBar().Item(QStringLiteral("Window_Zoom")).SetText(QStringLiteral("Maximize"));
+    }
+    DecodeOptions();
+
+    PlaceSidePanel(window, OnMac);
+    window.SetTitle(DrinkAppName);
+    Move(window.SideDrinklistsLabel, {0, 50, 224, 27});
+    Move(window.SideIngredLabel, {0, 204, 224, 30});
+
+    if (!FillInBarList() || !FillDrinkListsList()) {
+        return;
+    }
+    FillDrinkList();
+}

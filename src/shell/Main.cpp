@@ -1,0 +1,14 @@
+#include "platform/ui/Application.h"
+#include "shell/App.h"
+#include "shell/MenuBar1.h"
+#include "shell/Pictures.h"
+
+int main(int argc, char** argv) {
+    Runtime runtime(argc, argv);
+    PreparePictures();
+    App app;
+    MenuBar1 menuBar;
+    app.SetMenuBar(menuBar);
+    app._ApplicationAddMenuHandlers();
+    return runtime.Run(app);
+}

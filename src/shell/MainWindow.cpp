@@ -1,0 +1,68 @@
+#include "shell/MainWindow.h"
+
+#include "platform/ui/MenuBar.h"
+#include "shell/App.h"
+
+namespace {
+
+const WindowProperties properties = {
+    "MainWindow", QStringLiteral("Pourbook"), 750, 550, 750, 500, 32000, 32000, true,
+};
+
+}  // namespace
+
+MainWindow::MainWindow() : Window(properties) {
+    PlaceControls();
+    DressControls();
+    BindEvents();
+    SetMenuBar(App::Instance().ApplicationMenuBar());
+}
+
+void MainWindow::BindEvents() {
+    CloseEvent = [this] { Event_Close(); };
+    EnableMenuItems = [this] { Event_EnableMenuItems(); };
+
+    DrinkList.Change = [this] { DrinkList_Change(); };
+    DrinkList.CellClick = [this](int row, int column, int x, int y) { return DrinkList_CellClick(row, column, x, y); };
+    DrinkList.DragRow = [this](DragItem& drag, int row) { return DrinkList_DragRow(drag, row); };
+    DrinkList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
+        return DrinkList_CellBackgroundPaint(g, row, column);
+    };
+    DrinkList.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
+        return DrinkList_CellTextPaint(g, row, column, x, y);
+    };
+    DrinkList.CompareRows = [this](int row1, int row2, int column, int& result) {
+        return DrinkList_CompareRows(row1, row2, column, result);
+    };
+
+    SearchBox.TextChange = [this] { SearchBox_TextChange(); };
+    SearchBox.GotFocus = [this] { SearchBox_GotFocus(); };
+    MatchIngredients.Action = [this] { MatchIngredients_Action(); };
+    RandomDrink.Action = [this] { RandomDrink_Action(); };
+
+    InBarList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
+        return InBarList_CellBackgroundPaint(g, row, column);
+    };
+    InBarList.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
+        return InBarList_CellTextPaint(g, row, column, x, y);
+    };
+
+    DrinkListsList.Change = [this] { DrinkListsList_Change(); };
+    DrinkListsList.MouseDown = [this](int x, int y) { return DrinkListsList_MouseDown(x, y); };
+    DrinkListsList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
+        return DrinkListsList_CellBackgroundPaint(g, row, column);
+    };
+    DrinkListsList.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
+        return DrinkListsList_CellTextPaint(g, row, column, x, y);
+    };
+}
+
+// A menu bar knows nothing of drinks; what it offers depends on what is selected.
+void MainWindow::Event_EnableMenuItems() {
+    const MenuBar& menus = App::Instance().ApplicationMenuBar();
+    MenuItem& deleteList = menus.Item(QStringLiteral("File_DeleteList"));
+    deleteList.SetEnabled(deleteList.Enabled() && DrinkListsList.ListIndex() >= 1);
+    const bool drinkSelected = DrinkList.ListIndex() >= 0;
+    menus.Item(QStringLiteral("Edit_CopyRecipe")).SetEnabled(drinkSelected);
+    menus.Item(QStringLiteral("File_Print")).SetEnabled(drinkSelected);
+}

@@ -1,0 +1,88 @@
+#include "shell/MenuBar1.h"
+
+#include "shell/App.h"
+#include "shell/MainWindow.h"
+
+namespace {
+
+using Kind = MenuItemKind;
+
+const std::vector<MenuTitle> menus = {
+    {"FileMenu", "&File"},
+    {"EditMenu", "&Edit"},
+    {"ViewMenu", "View"},
+    {"IngredientsMenu", "Ingredients"},
+    {"WindowMenu", "Window"},
+    {"HelpMenu", "Help"},
+};
+
+const std::vector<MenuRow> rows = {
+    {"FileMenu", "File_NewDrink", Kind::Command, "New Drink Recipe", "Cmd+N"},
+    {"FileMenu", "UntitledSeparator0", Kind::Separator, "-", ""},
+    {"FileMenu", "File_NewDrinklist", Kind::Command, "New Drinklist", ""},
+    {"FileMenu", "File_DeleteList", Kind::Command, "Delete Drinklist", ""},
+    {"FileMenu", "UntitledSeparator", Kind::Separator, "-", ""},
+    {"FileMenu", "File_Print", Kind::Command, "Print Drink Recipe", "Cmd+P"},
+    {"FileMenu", "UntitledSeparator2", Kind::Separator, "-", ""},
+    {"FileMenu", "File_Exit", Kind::Quit, "Exit", ""},
+
+    {"EditMenu", "Edit_CopyRecipe", Kind::Command, "&Copy Cocktail Recipe", "Cmd+C"},
+    {"EditMenu", "UntitledSeparator1", Kind::Separator, "-", ""},
+    {"EditMenu", "Edit_Preferences", Kind::Preferences, "Preferences", ""},
+    {"EditMenu", "EditCut", Kind::EditCut, "Cu&t", "Cmd+X"},
+    {"EditMenu", "EditCopy", Kind::EditCopy, "&Copy", "Cmd+C"},
+    {"EditMenu", "EditPaste", Kind::EditPaste, "&Paste", "Cmd+V"},
+
+    {"ViewMenu", "View_RatingsColumn", Kind::Command, "Show Ratings Column", ""},
+    {"ViewMenu", "View_DrinkTypeColumn", Kind::Command, "Show Drink Type Column", ""},
+    {"ViewMenu", "View_GlassColumn", Kind::Command, "Show Glass Column", ""},
+
+    {"IngredientsMenu", "Ingredients_AddRemove", Kind::Command, "Ingredients In Your Bar", ""},
+    {"IngredientsMenu", "Ingredients_Recommend", Kind::Command, "Recommend Ingredients To Buy", ""},
+
+    {"WindowMenu", "Window_Minimize", Kind::Command, "Minimize", "Cmd+M"},
+    {"WindowMenu", "Window_Zoom", Kind::Command, "Zoom", ""},
+
+    {"HelpMenu", "Help_Pourbook", Kind::Command, "Pourbook Help", ""},
+    {"HelpMenu", "UntitledSeparator3", Kind::Separator, "-", ""},
+    {"HelpMenu", "Help_About", Kind::About, "About Tipplewise Pourbook", ""},
+};
+
+}  // namespace
+
+MenuBar1::MenuBar1() : MenuBar(menus, rows) {}
+
+// NOLINTBEGIN(bugprone-reserved-identifier): the names of the handlers, see App.h
+void App::_ApplicationAddMenuHandlers() {
+    const auto bind = [this](const char* item, bool (App::*handler)()) {
+        AddMenuHandler(QString::fromLatin1(item), [this, handler] { return (this->*handler)(); });
+    };
+    bind("View_RatingsColumn", &App::_View_RatingsColumn_Action);
+    bind("View_DrinkTypeColumn", &App::_View_DrinkTypeColumn_Action);
+    bind("View_GlassColumn", &App::_View_GlassColumn_Action);
+    bind("Edit_CopyRecipe", &App::_Edit_CopyRecipe_Action);
+    bind("File_Print", &App::_File_Print_Action);
+    bind("Window_Minimize", &App::_Window_Minimize_Action);
+    bind("Window_Zoom", &App::_Window_Zoom_Action);
+}
+
+// The command stands in the menu and does nothing yet when chosen; recipes are copied from the recipe panel's fields.
+bool App::_Edit_CopyRecipe_Action() {
+    return false;
+}
+
+// The same, for printing.
+bool App::_File_Print_Action() {
+    return false;
+}
+
+bool App::_Window_Minimize_Action() {
+    MainWindow::Instance().Minimize();
+    return false;
+}
+
+bool App::_Window_Zoom_Action() {
+    MainWindow::Instance().Maximize();
+    return false;
+}
+// NOLINTEND(bugprone-reserved-identifier)
