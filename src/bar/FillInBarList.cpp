@@ -29,7 +29,7 @@ bool App::FillInBarList() {
         list.SetCellTag(row, 0, rs.Field("IngredientID").IntegerValue());
         list.SetCell(row, 1, rs.Field("IngredientName").StringValue());
         list.SetRowPicture(row, NamedPicture(rs.Field("Empty").BooleanValue() ? QStringLiteral("BarEmpty")
-                                                                             : QStringLiteral("BarFull")));
+                                                                              : QStringLiteral("BarFull")));
     }
     list.SetScrollPosition(0);
     return true;

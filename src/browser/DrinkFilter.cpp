@@ -35,7 +35,7 @@ std::vector<int> InBoth(const std::vector<int>& MatchedDrinks, const std::vector
     return both;
 }
 
-}  // namespace
+} // namespace
 
 DrinkFilter ReadDrinkFilter(REALSQLDatabase& db) {
     DrinkFilter filter;

@@ -42,7 +42,7 @@ void ToggleColumn(App& app, bool App::*option, const char* item, const char* col
     static_cast<void>(app.FillDrinkList());
 }
 
-}  // namespace
+} // namespace
 
 void App::SetupDrinkList() {
     Listbox& list = MainWindow::Instance().DrinkList;

@@ -8,7 +8,7 @@ namespace {
 constexpr Color stripe = Color{0xF1F5FA};
 constexpr Color secondaryText = Color{0x666666};
 
-}  // namespace
+} // namespace
 
 bool MainWindow::DrinkList_CellBackgroundPaint(Graphics& g, int row, int /*column*/) {
     if (row % 2 == 1) {

@@ -20,8 +20,8 @@ QString DrinksStatement(const QString& SearchText) {
         return base + order;
     }
     const QString text = ReplaceAll(SearchText, QStringLiteral("'"), QStringLiteral("''"));
-    return base + QStringLiteral("WHERE D.DrinkName LIKE '%") + text + QStringLiteral("%' OR D.IngredientList LIKE '%") +
-           text + QStringLiteral("%'") + order;
+    return base + QStringLiteral("WHERE D.DrinkName LIKE '%") + text +
+           QStringLiteral("%' OR D.IngredientList LIKE '%") + text + QStringLiteral("%'") + order;
 }
 
 // Writes the current record into a new row of the list, in the columns that SetupDrinkList has made.
@@ -44,7 +44,7 @@ void AddDrinkRow(const App& app, Listbox& list, const RecordSet& rs) {
     }
 }
 
-}  // namespace
+} // namespace
 
 // The one way to bring the list up to date: it is always rebuilt whole, from the search text, the match box and the
 // selected drinklist as they stand on the screen now.

@@ -29,7 +29,7 @@ constexpr Glass glasses[] = {
     {"White Wine", "Glass_WhiteWine"},
 };
 
-}  // namespace
+} // namespace
 
 const Picture* GlassPicture(const QString& glassTypeName) {
     for (const Glass& glass : glasses) {

@@ -11,7 +11,8 @@ using ParentOfIngredient = std::unordered_map<int, int>;
 
 // What the user has, widened: the stocked ingredients and all that they are kinds of, to any depth. The tree is only
 // climbed: a stocked Rye is also a Whiskey, a stocked Whiskey is no Rye.
-[[nodiscard]] std::unordered_set<int> BarIngredients(const std::vector<int>& stocked, const ParentOfIngredient& parents);
+[[nodiscard]] std::unordered_set<int> BarIngredients(const std::vector<int>& stocked,
+                                                     const ParentOfIngredient& parents);
 
 // A required row of a drink's recipe, with the number of required rows that the drink says it has.
 struct RequiredRow {

@@ -22,7 +22,7 @@ QString FractionText(int digits) {
     return {};
 }
 
-}  // namespace
+} // namespace
 
 QString QuantityText(const QString& quantity, const QString& unit) {
     if (quantity == QLatin1String("0")) {

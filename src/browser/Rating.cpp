@@ -24,7 +24,7 @@ const RatingPictures& Pictures() {
     return pictures;
 }
 
-}  // namespace
+} // namespace
 
 int RatingAt(int x) {
     constexpr int upperEnds[] = {3, 12, 24, 36, 48};

@@ -81,7 +81,7 @@ void ShowDrinkType(EditField& field, const QString& typeName) {
     styled.SetTextColor(Len(label), Len(typeName), Color{0x666666});
 }
 
-}  // namespace
+} // namespace
 
 void App::ClearDrinkInfo() {
     MainWindow& window = MainWindow::Instance();

@@ -23,7 +23,7 @@ ParentOfIngredient SelectParents(REALSQLDatabase& db) {
     return parents;
 }
 
-}  // namespace
+} // namespace
 
 // The rows are compared with the bar here and not in a WHERE that names each ingredient: such a statement has a
 // limit, and a bar has none.

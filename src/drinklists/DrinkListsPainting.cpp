@@ -34,7 +34,7 @@ const Picture* RowIcon(int row, bool selected) {
     return NamedPicture(selected ? name + QStringLiteral("_Selected") : name);
 }
 
-}  // namespace
+} // namespace
 
 // The icon of a row follows the selection here, before the list draws it. The event also comes for the empty space
 // below the last row.

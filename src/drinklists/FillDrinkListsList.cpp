@@ -28,7 +28,7 @@ bool ShowCount(REALSQLDatabase& db, Listbox& list, const QString& select) {
     return true;
 }
 
-}  // namespace
+} // namespace
 
 bool App::FillDrinkListsList() {
     REALSQLDatabase db;

@@ -1,9 +1,8 @@
-#include "shell/App.h"
-
 #include "platform/base/Text.h"
 #include "platform/files/FolderItem.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/MsgBox.h"
+#include "shell/App.h"
 #include "shell/MainWindow.h"
 
 namespace {
@@ -59,7 +58,7 @@ void PlaceSidePanel(MainWindow& window, bool onMac) {
     }
 }
 
-}  // namespace
+} // namespace
 
 // The order of the steps matters: the options decide on the columns that the fills use, and the side panel is placed
 // for the size that the window has been given.

@@ -9,7 +9,7 @@ const WindowProperties properties = {
     "MainWindow", QStringLiteral("Pourbook"), 750, 550, 750, 500, 32000, 32000, true,
 };
 
-}  // namespace
+} // namespace
 
 MainWindow::MainWindow() : Window(properties) {
     PlaceControls();

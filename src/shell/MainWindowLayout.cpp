@@ -1,6 +1,5 @@
-#include "shell/MainWindow.h"
-
 #include "platform/ui/Picture.h"
+#include "shell/MainWindow.h"
 
 // Where the controls of the main window stand and how they look. Places are those of a window of 750 x 550; the locks
 // say how a control follows its parent from there. The rows stand in creation order: later ones lie above.
@@ -45,7 +44,7 @@ constexpr EditFieldLook Column(TextAlignment alignment) {
     return {greyText, white, 10, false, alignment, true, false, false};
 }
 
-}  // namespace
+} // namespace
 
 void MainWindow::PlaceControls() {
     const PlacedControl rows[] = {
@@ -91,7 +90,7 @@ void MainWindow::PlaceControls() {
 
 void MainWindow::DressControls() {
     const std::pair<Shape&, ShapeLook> shapes[] = {
-        {Rectangle1, sidebarGround}, {Rectangle2, panelGround},   {DrinkBanner, bannerGround},
+        {Rectangle1, sidebarGround},  {Rectangle2, panelGround},   {DrinkBanner, bannerGround},
         {DrinkRecipeBox, panelFrame}, {DrinkGlassBox, panelFrame}, {DrinkInstructionsBox, panelFrame},
     };
     for (const auto& [shape, look] : shapes) {
@@ -99,14 +98,10 @@ void MainWindow::DressControls() {
     }
 
     const std::pair<Canvas&, const char*> pictures[] = {
-        {SideTools, "SideToolBar"},
-        {DrinkListAdd, "AddDrinkList"},
-        {IngredAdd, "AddIngredients"},
-        {Canvas5, "Legend"},
-        {Canvas6, "SearchBoxBG"},
-        {SideDrinklistsLabel, "DrinkListsLabel"},
-        {SideIngredLabel, "InBarLabel"},
-        {Canvas1, "SliderBar"},
+        {SideTools, "SideToolBar"},      {DrinkListAdd, "AddDrinkList"},
+        {IngredAdd, "AddIngredients"},   {Canvas5, "Legend"},
+        {Canvas6, "SearchBoxBG"},        {SideDrinklistsLabel, "DrinkListsLabel"},
+        {SideIngredLabel, "InBarLabel"}, {Canvas1, "SliderBar"},
     };
     for (const auto& [canvas, picture] : pictures) {
         canvas.SetBackdrop(NamedPicture(QString::fromLatin1(picture)));

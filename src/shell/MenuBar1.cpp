@@ -8,12 +8,8 @@ namespace {
 using Kind = MenuItemKind;
 
 const std::vector<MenuTitle> menus = {
-    {"FileMenu", "&File"},
-    {"EditMenu", "&Edit"},
-    {"ViewMenu", "View"},
-    {"IngredientsMenu", "Ingredients"},
-    {"WindowMenu", "Window"},
-    {"HelpMenu", "Help"},
+    {"FileMenu", "&File"},    {"EditMenu", "&Edit"}, {"ViewMenu", "View"}, {"IngredientsMenu", "Ingredients"},
+    {"WindowMenu", "Window"}, {"HelpMenu", "Help"},
 };
 
 const std::vector<MenuRow> rows = {
@@ -48,7 +44,7 @@ const std::vector<MenuRow> rows = {
     {"HelpMenu", "Help_About", Kind::About, "About Tipplewise Pourbook", ""},
 };
 
-}  // namespace
+} // namespace
 
 MenuBar1::MenuBar1() : MenuBar(menus, rows) {}
 

@@ -24,7 +24,7 @@ std::vector<Option> Options(const App& app) {
     };
 }
 
-}  // namespace
+} // namespace
 
 void App::DecodeOptions() {
     for (const Option& option : Options(*this)) {

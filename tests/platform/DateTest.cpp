@@ -1,4 +1,5 @@
 #include "platform/base/Date.h"
+
 #include "platform/base/Random.h"
 
 #include <gtest/gtest.h>

@@ -78,4 +78,4 @@ TEST_F(DatabaseTest, CreateRefusesAnExistingFile) {
     EXPECT_EQ(DrinkCount(database), QString("2"));
 }
 
-}
+} // namespace

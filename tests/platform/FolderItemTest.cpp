@@ -1,13 +1,13 @@
+#include "platform/files/FolderItem.h"
+
 #include "FileSizeLimit.h"
 #include "platform/base/Exceptions.h"
-#include "platform/files/FolderItem.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 namespace {
@@ -163,4 +163,4 @@ TEST_F(FolderItemTest, StandardFoldersFollowTheDesktopRules) {
     EXPECT_EQ(ExecutableFile().Name(), QString("platform_store_test"));
 }
 
-}
+} // namespace

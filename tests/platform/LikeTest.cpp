@@ -73,7 +73,8 @@ TEST_F(LikeTest, AgreesWithTheEngineOnPlainText) {
     // Every pattern of four signs out of six against some texts, as the engine's own LIKE in the shell sees them.
     const char* matching =
         "WITH S(C) AS (VALUES ('a'), ('B'), ('%'), ('_'), ('b'), ('')), "
-        "P(P) AS (SELECT W.C || X.C || Y.C || Z.C FROM S W, S X, S Y, S Z), T(T) AS (VALUES (''), ('a'), ('b'), ('ab'), ('ABA'), ('bbab'), ('aabb'), ('c')) "
+        "P(P) AS (SELECT W.C || X.C || Y.C || Z.C FROM S W, S X, S Y, S Z), T(T) AS (VALUES (''), ('a'), ('b'), "
+        "('ab'), ('ABA'), ('bbab'), ('aabb'), ('c')) "
         "SELECT COUNT(*) AS N, SUM(length(P) * 7 + unicode(P || 'x') * 3 + length(T)) AS Mix FROM P, T WHERE T LIKE P";
     REALSQLDatabase database;
     Open(database);
@@ -117,4 +118,4 @@ TEST_F(LikeTest, NullEscapeAndOddBytes) {
               QString("1,0,1,1"));
 }
 
-}
+} // namespace

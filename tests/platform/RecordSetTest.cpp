@@ -105,4 +105,4 @@ TEST_F(DatabaseTest, NilRecordSetThrowsAtEveryUse) {
     EXPECT_THROW(nil.Close(), NilObjectException);
 }
 
-}
+} // namespace

@@ -106,4 +106,4 @@ TEST_F(DatabaseTest, InsertedValuesNeedNoQuotingAndTakeTheColumnsType) {
     EXPECT_EQ(DrinkCount(database), QString("4"));
 }
 
-}
+} // namespace

@@ -30,8 +30,9 @@ TEST(Text, PartsTakeAnyNumber) {
         const char* mid;
     };
     const Case cases[] = {
-        {INT_MIN, "", "", "Punch"}, {-1, "", "", "Punch"},      {0, "", "", "Punch"},      {1, "P", "h", "Punch"},
-        {2, "Pu", "ch", "unch"},    {5, "Punch", "Punch", "h"}, {6, "Punch", "Punch", ""}, {INT_MAX, "Punch", "Punch", ""},
+        {INT_MIN, "", "", "Punch"}, {-1, "", "", "Punch"},           {0, "", "", "Punch"},
+        {1, "P", "h", "Punch"},     {2, "Pu", "ch", "unch"},         {5, "Punch", "Punch", "h"},
+        {6, "Punch", "Punch", ""},  {INT_MAX, "Punch", "Punch", ""},
     };
     for (const Case& row : cases) {
         EXPECT_EQ(Left("Punch", row.number), QString(row.left)) << row.number;
@@ -71,10 +72,26 @@ TEST(Text, CLongReadsTheLeadingInteger) {
         int number;
     };
     const Case cases[] = {
-        {"", 0},       {"2.", 2},     {"05", 5},        {"125", 125},         {"  7 cl", 7},          {"-3", -3},
-        {"+3", 3},     {"- 3", 0},    {"--3", 0},       {"abc", 0},           {"1e3", 1},             {"102\r\n", 102},
-        {"\t12", 12},  {".5", 0},     {"2147483647", INT_MAX}, {"2147483648", INT_MAX}, {"-2147483648", INT_MIN},
-        {"-9999999999999999999999", INT_MIN}, {"99999999999999999999999", INT_MAX}, {"٣", 0},
+        {"", 0},
+        {"2.", 2},
+        {"05", 5},
+        {"125", 125},
+        {"  7 cl", 7},
+        {"-3", -3},
+        {"+3", 3},
+        {"- 3", 0},
+        {"--3", 0},
+        {"abc", 0},
+        {"1e3", 1},
+        {"102\r\n", 102},
+        {"\t12", 12},
+        {".5", 0},
+        {"2147483647", INT_MAX},
+        {"2147483648", INT_MAX},
+        {"-2147483648", INT_MIN},
+        {"-9999999999999999999999", INT_MIN},
+        {"99999999999999999999999", INT_MAX},
+        {"٣", 0},
     };
     for (const Case& row : cases) {
         EXPECT_EQ(CLong(row.text), row.number) << row.text;

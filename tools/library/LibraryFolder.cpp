@@ -9,19 +9,13 @@ namespace {
 void AppendFile(const QDir& folder, const QString& name, QList<LibraryFile>& files, QList<LibraryError>& errors) {
     QFile file(folder.filePath(name));
     if (!file.open(QIODevice::ReadOnly)) {
-        errors.append({
-            {name, 0},
-            file.errorString()
-        });
+        errors.append({{name, 0}, file.errorString()});
         return;
     }
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder.decode(file.readAll());
     if (decoder.hasError()) {
-        errors.append({
-            {name, 0},
-            QStringLiteral("the file is not UTF-8")
-        });
+        errors.append({{name, 0}, QStringLiteral("the file is not UTF-8")});
     }
     files.append({name, text});
 }

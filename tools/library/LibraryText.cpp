@@ -10,10 +10,7 @@ LibraryFile FileNamed(const QString& name, const QList<LibraryFile>& files, QLis
     const auto found =
         std::find_if(files.cbegin(), files.cend(), [&name](const LibraryFile& file) { return file.name == name; });
     if (found == files.cend()) {
-        errors.append({
-            {name, 0},
-            QStringLiteral("the file is missing")
-        });
+        errors.append({{name, 0}, QStringLiteral("the file is missing")});
         return {name, QString()};
     }
     return *found;
@@ -45,10 +42,7 @@ LibraryReading ReadLibrary(const QList<LibraryFile>& files) {
         }
     }
     if (reading.library.recipes.isEmpty()) {
-        errors.append({
-            {QStringLiteral("recipes"), 0},
-            QStringLiteral("there is no recipe")
-        });
+        errors.append({{QStringLiteral("recipes"), 0}, QStringLiteral("there is no recipe")});
     }
     return reading;
 }

@@ -12,7 +12,7 @@ bool IsShownRightly(const QString& quantity) {
 
 QString TakeWord(QString& text) {
     const qsizetype end = text.indexOf(u' ');
-    const QString word = end < 0 ? text : text.left(end);
+    QString word = end < 0 ? text : text.left(end);
     text = end < 0 ? QString() : text.mid(end + 1);
     return word;
 }

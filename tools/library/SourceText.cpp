@@ -15,9 +15,7 @@ QList<SourceLine> SourceLines(const LibraryFile& file) {
         while (line.at(indent).isSpace()) {
             ++indent;
         }
-        lines.append({
-            content, indent, {file.name, number}
-        });
+        lines.append({content, indent, {file.name, number}});
     }
     return lines;
 }

@@ -17,7 +17,7 @@ QDate ReadSQLDate(const QString& text) {
     return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
 }
 
-}
+} // namespace
 
 Date::Date() {
     const QDateTime now = QDateTime::currentDateTime();

@@ -9,8 +9,8 @@ public:
     Date();
 
     int Year() const;
-    int Month() const;  // 1 to 12
-    int Day() const;    // 1 to 31
+    int Month() const; // 1 to 12
+    int Day() const;   // 1 to 31
 
     // Each leaves the other parts and the time of day alone. A day or month that the calendar does not have
     // rolls over: day 31 set in April is May 1, month 13 is January of the next year.

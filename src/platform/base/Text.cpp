@@ -12,7 +12,7 @@ bool IsDigit(QChar character) {
     return character >= u'0' && character <= u'9';
 }
 
-}
+} // namespace
 
 int InStr(const QString& text, const QString& search) {
     return InStr(1, text, search);
@@ -74,12 +74,12 @@ int CLong(const QString& text) {
     if (place != text.end() && (*place == u'-' || *place == u'+')) {
         ++place;
     }
-    constexpr std::int64_t Beyond = std::int64_t(std::numeric_limits<int>::max()) + 1;
+    constexpr std::int64_t beyond = std::int64_t(std::numeric_limits<int>::max()) + 1;
     std::int64_t value = 0;
     for (; place != text.end() && IsDigit(*place); ++place) {
-        value = std::min(value * 10 + (place->unicode() - u'0'), Beyond);
+        value = std::min(value * 10 + (place->unicode() - u'0'), beyond);
     }
-    return int(negative ? -value : std::min(value, Beyond - 1));
+    return int(negative ? -value : std::min(value, beyond - 1));
 }
 
 bool IsNumeric(const QString& text) {

@@ -49,7 +49,7 @@ bool SameText(const QString& a, const QString& b);
 
 // The line ends of the three platforms. The multi-line controls of this layer take each of them as one line end.
 namespace EndOfLine {
-QString Macintosh();  // carriage return
-QString Windows();    // carriage return, line feed
-QString Unix();       // line feed
-}
+QString Macintosh(); // carriage return
+QString Windows();   // carriage return, line feed
+QString Unix();      // line feed
+} // namespace EndOfLine

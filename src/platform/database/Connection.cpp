@@ -52,7 +52,7 @@ QByteArray InsertText(const QString& table, const DatabaseRecord& record) {
     return into + " (" + names.join(", ") + ") VALUES (" + places.join(", ") + ')';
 }
 
-}
+} // namespace
 
 void Connection::Closer::operator()(sqlite3* engine) const {
     sqlite3_close(engine);

@@ -20,29 +20,29 @@ bool IsCombiningAccent(char32_t character) {
 // Unicode has no decomposition for letters with a stroke, but who types without accents leaves out the stroke as well.
 char32_t WithoutStroke(char32_t character) {
     switch (character) {
-    case U'ø':
-        return U'o';
-    case U'ł':
-        return U'l';
-    case U'đ':
-        return U'd';
-    case U'ħ':
-        return U'h';
-    case U'ŧ':
-        return U't';
-    case U'ı':
-        return U'i';
-    default:
-        return character;
+        case U'ø':
+            return U'o';
+        case U'ł':
+            return U'l';
+        case U'đ':
+            return U'd';
+        case U'ħ':
+            return U'h';
+        case U'ŧ':
+            return U't';
+        case U'ı':
+            return U'i';
+        default:
+            return character;
     }
 }
 
 char32_t WithoutAccents(char32_t character) {
     for (;;) {
         const QString parts = QChar::decomposition(character);
-        const bool isAccented = QChar::decompositionTag(character) == QChar::Canonical && parts.length() > 1 &&
-                                std::all_of(parts.begin() + 1, parts.end(),
-                                            [](QChar part) { return IsCombiningAccent(part.unicode()); });
+        const bool isAccented =
+            QChar::decompositionTag(character) == QChar::Canonical && parts.length() > 1 &&
+            std::all_of(parts.begin() + 1, parts.end(), [](QChar part) { return IsCombiningAccent(part.unicode()); });
         if (!isAccented) {
             return character;
         }
@@ -60,7 +60,7 @@ Table MakeTable() {
     return table;
 }
 
-}
+} // namespace
 
 char32_t FoldedCharacter(char32_t character) {
     static const Table table = MakeTable();

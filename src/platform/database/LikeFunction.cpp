@@ -64,7 +64,7 @@ void Like(sqlite3_context* context, int count, sqlite3_value** values) {
     }
 }
 
-}
+} // namespace
 
 void InstallLike(sqlite3* engine) {
     for (const int count : {2, 3}) {

@@ -18,12 +18,12 @@ char32_t TakeToken(std::string_view& pattern, char32_t escape) {
         return pattern.empty() ? NoCharacter : TakeFolded(pattern);
     }
     switch (character) {
-    case U'%':
-        return AnyText;
-    case U'_':
-        return AnyCharacter;
-    default:
-        return FoldedCharacter(character);
+        case U'%':
+            return AnyText;
+        case U'_':
+            return AnyCharacter;
+        default:
+            return FoldedCharacter(character);
     }
 }
 
@@ -75,12 +75,10 @@ bool BeginsWith(std::string_view text, std::u32string_view part) {
     return true;
 }
 
-}
+} // namespace
 
 LikePattern::LikePattern(std::string_view pattern, char32_t escape)
-    : escape_(escape),
-      tokens_(ReadTokens(pattern, escape)),
-      part_(PartBetween(tokens_)) {}
+    : escape_(escape), tokens_(ReadTokens(pattern, escape)), part_(PartBetween(tokens_)) {}
 
 bool LikePattern::Matches(std::string_view text) const {
     return part_.empty() ? MatchesTokens(text) : ContainsPart(text);

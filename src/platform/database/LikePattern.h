@@ -21,6 +21,6 @@ private:
     [[nodiscard]] bool ContainsPart(std::string_view text) const;
 
     char32_t escape_;
-    std::u32string tokens_;  // folded characters, and codes for the wildcards
-    std::u32string part_;    // of a pattern "%part%" without other wildcards, else empty
+    std::u32string tokens_; // folded characters, and codes for the wildcards
+    std::u32string part_;   // of a pattern "%part%" without other wildcards, else empty
 };

@@ -23,7 +23,7 @@ QByteArray ReadSalt(const QString& path) {
     if (!file.open(QIODevice::ReadOnly)) {
         throw EngineFailure(SQLITE_CANTOPEN);
     }
-    const QByteArray salt = file.read(SaltLength);
+    QByteArray salt = file.read(SaltLength);
     if (salt.size() != SaltLength) {
         throw EngineFailure(SQLITE_NOTADB);
     }
@@ -40,7 +40,7 @@ QByteArray Derive(const QByteArray& passphrase, const QByteArray& salt) {
     return QByteArray(reinterpret_cast<const char*>(key.data()), KeyLength);
 }
 
-}
+} // namespace
 
 QByteArray RawKey(const QString& path, const QString& passphrase) {
     // All database work is done on the one thread of the program.

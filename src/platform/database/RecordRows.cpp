@@ -25,7 +25,7 @@ bool SameName(std::string_view a, std::string_view b) {
     return a.size() == b.size() && qstrnicmp(a.data(), b.data(), a.size()) == 0;
 }
 
-}
+} // namespace
 
 void RecordRows::AddNull() {
     cells.push_back({Cell::Kind::Null, 0, 0});

@@ -18,14 +18,14 @@ struct RecordRows {
         enum class Kind : std::uint32_t { Null, Number, Text };
 
         Kind kind;
-        std::uint32_t length;  // of a text, in bytes
-        std::int64_t value;    // the number, or where the text begins in `texts`
+        std::uint32_t length; // of a text, in bytes
+        std::int64_t value;   // the number, or where the text begins in `texts`
     };
 
-    std::vector<QByteArray> names;  // of the columns, as the engine gives them
-    std::vector<Cell> cells;        // row after row
+    std::vector<QByteArray> names; // of the columns, as the engine gives them
+    std::vector<Cell> cells;       // row after row
     std::string texts;
-    std::size_t count = 0;  // of rows; a statement without columns has none
+    std::size_t count = 0; // of rows; a statement without columns has none
 
     void AddNull();
     void AddNumber(std::int64_t number);
@@ -41,5 +41,5 @@ struct RecordRows {
     void IndexNames();
 
 private:
-    std::vector<std::string_view> bareNames_;  // empty for a name that an earlier column has already
+    std::vector<std::string_view> bareNames_; // empty for a name that an earlier column has already
 };

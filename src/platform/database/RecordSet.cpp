@@ -10,7 +10,7 @@
 #include <utility>
 
 struct RecordSet::State {
-    std::shared_ptr<const RecordRows> rows;  // null when closed
+    std::shared_ptr<const RecordRows> rows; // null when closed
     std::size_t count = 0;
     std::size_t row = 0;
     std::size_t likelyColumn = 0;
@@ -46,12 +46,12 @@ bool DatabaseField::IsNull() const {
 QString DatabaseField::StringValue() const {
     const RecordRows::Cell& cell = rows_->cells[cell_];
     switch (cell.kind) {
-    case RecordRows::Cell::Kind::Null:
-        return {};
-    case RecordRows::Cell::Kind::Number:
-        return QString::number(qlonglong(cell.value));
-    case RecordRows::Cell::Kind::Text:
-        break;
+        case RecordRows::Cell::Kind::Null:
+            return {};
+        case RecordRows::Cell::Kind::Number:
+            return QString::number(qlonglong(cell.value));
+        case RecordRows::Cell::Kind::Text:
+            break;
     }
     const std::string_view text = rows_->Text(cell);
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
@@ -60,8 +60,8 @@ QString DatabaseField::StringValue() const {
 int DatabaseField::IntegerValue() const {
     const RecordRows::Cell& cell = rows_->cells[cell_];
     if (cell.kind == RecordRows::Cell::Kind::Number) {
-        return int(std::clamp<std::int64_t>(cell.value, std::numeric_limits<int>::min(),
-                                            std::numeric_limits<int>::max()));
+        return int(
+            std::clamp<std::int64_t>(cell.value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
     }
     return CLong(StringValue());
 }

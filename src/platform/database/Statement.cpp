@@ -31,7 +31,7 @@ std::string_view SkipBlanksAndComments(std::string_view text) {
     }
 }
 
-}
+} // namespace
 
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const {
     sqlite3_finalize(statement);
@@ -59,8 +59,7 @@ Statement::Statement(sqlite3* engine, const QByteArray& text) : engine_(engine) 
 }
 
 void Statement::Bind(int parameter, const QByteArray& text) {
-    const int code =
-        sqlite3_bind_text(statement_.get(), parameter, text.constData(), int(text.size()), SQLITE_STATIC);
+    const int code = sqlite3_bind_text(statement_.get(), parameter, text.constData(), int(text.size()), SQLITE_STATIC);
     if (code != SQLITE_OK) {
         throw EngineFailure(engine_);
     }
@@ -97,16 +96,16 @@ void Statement::ReadRow(RecordRows& rows) const {
     const int width = sqlite3_data_count(row);
     for (int column = 0; column < width; ++column) {
         switch (sqlite3_column_type(row, column)) {
-        case SQLITE_NULL:
-            rows.AddNull();
-            break;
-        case SQLITE_INTEGER:
-            rows.AddNumber(sqlite3_column_int64(row, column));
-            break;
-        default:
-            // The text is asked for before its length, because the engine may convert it only then.
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-            rows.AddText({text != nullptr ? text : "", std::size_t(sqlite3_column_bytes(row, column))});
+            case SQLITE_NULL:
+                rows.AddNull();
+                break;
+            case SQLITE_INTEGER:
+                rows.AddNumber(sqlite3_column_int64(row, column));
+                break;
+            default:
+                // The text is asked for before its length, because the engine may convert it only then.
+                const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+                rows.AddText({text != nullptr ? text : "", std::size_t(sqlite3_column_bytes(row, column))});
         }
     }
     ++rows.count;

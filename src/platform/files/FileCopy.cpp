@@ -39,9 +39,8 @@ private:
 // A file that goes again unless it got its real name.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(QByteArray pattern) : path_(std::move(pattern)), file_(mkostemp(path_.data(), O_CLOEXEC)) {
-        exists_ = file_.Number() >= 0;
-    }
+    explicit TemporaryFile(QByteArray pattern)
+        : path_(std::move(pattern)), file_(mkostemp(path_.data(), O_CLOEXEC)), exists_(file_.Number() >= 0) {}
     ~TemporaryFile() {
         if (exists_) {
             unlink(path_.constData());
@@ -61,7 +60,7 @@ public:
 private:
     QByteArray path_;
     Descriptor file_;
-    bool exists_ = false;
+    bool exists_;
 };
 
 [[nodiscard]] bool WriteAll(int file, const char* bytes, ssize_t count) {
@@ -78,7 +77,7 @@ private:
 }
 
 [[nodiscard]] bool CopyContents(int from, int to) {
-    std::array<char, 65536> buffer;
+    std::array<char, 65536> buffer{};
     for (;;) {
         const ssize_t count = read(from, buffer.data(), buffer.size());
         if (count == 0) {
@@ -102,7 +101,7 @@ void SynchroniseFolder(const QString& path) {
     }
 }
 
-}
+} // namespace
 
 void CopyWhole(const QString& from, const QString& to) {
     const QString deed = QStringLiteral("Could not copy \"%1\" to \"%2\"").arg(from, to);

@@ -26,7 +26,7 @@ QByteArray FirstNumberedPath(const QString& path) {
     const QString ending = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
     const QString stem = path.chopped(ending.length());
     for (int number = 2;; ++number) {
-        const QByteArray candidate = QFile::encodeName(QStringLiteral("%1 (%2)%3").arg(stem).arg(number).arg(ending));
+        QByteArray candidate = QFile::encodeName(QStringLiteral("%1 (%2)%3").arg(stem).arg(number).arg(ending));
         if (!IsTaken(candidate)) {
             return candidate;
         }
@@ -45,7 +45,7 @@ void MakeFolder(const QString& path) {
     }
 }
 
-}
+} // namespace
 
 FolderItem::FolderItem(const QString& path) : path_(QDir::cleanPath(QDir::current().absoluteFilePath(path))) {}
 

@@ -40,7 +40,7 @@ public:
     void CopyFileTo(const FolderItem& folder) const;
 
 private:
-    QString path_;  // null when nil
+    QString path_; // null when nil
 };
 
 // The item of that name in the current folder.

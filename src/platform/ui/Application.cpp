@@ -36,7 +36,7 @@ QPalette LightPalette() {
     return palette;
 }
 
-}  // namespace
+} // namespace
 
 Application::Application() {
     current = this;

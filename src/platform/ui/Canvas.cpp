@@ -30,7 +30,8 @@ protected:
 
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {
-            pressed_ = events::Raise(owner_.MouseDown, event->position().toPoint().x(), event->position().toPoint().y());
+            pressed_ =
+                events::Raise(owner_.MouseDown, event->position().toPoint().x(), event->position().toPoint().y());
         }
     }
 

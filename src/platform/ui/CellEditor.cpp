@@ -72,15 +72,16 @@ protected:
 
 private:
     // The handler may end this edit and start another one.
-    bool Offer(const QString& key) {
-        return events::Raise(owner_.list_.CellKeyDown, owner_.row_, owner_.column_, key);
-    }
+    bool Offer(const QString& key) { return events::Raise(owner_.list_.CellKeyDown, owner_.row_, owner_.column_, key); }
 
     CellEditor& owner_;
 };
 
 CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view)
-    : list_(list), model_(model), view_(view), line_(new Line(*this, view.viewport())),
+    : list_(list),
+      model_(model),
+      view_(view),
+      line_(new Line(*this, view.viewport())),
       field_(std::make_unique<EditField>(line_)) {}
 
 void CellEditor::Begin(int row, int column) {

@@ -19,7 +19,7 @@ int FixedWidth(const QString& part, int totalWidth) {
     return std::max(0, part.toInt());
 }
 
-}  // namespace
+} // namespace
 
 std::vector<int> ColumnWidths(const QString& text, int columnCount, int totalWidth) {
     const QStringList parts = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));

@@ -39,7 +39,9 @@ namespace {
 // the selection is put back after it.
 class FocusEvents : public QObject {
 public:
-    FocusEvents(QWidget* widget, EditField& field) : QObject(widget), field_(field) { widget->installEventFilter(this); }
+    FocusEvents(QWidget* widget, EditField& field) : QObject(widget), field_(field) {
+        widget->installEventFilter(this);
+    }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -107,7 +109,7 @@ Qt::Alignment QtAlignment(TextAlignment alignment) {
     return Qt::AlignLeft;
 }
 
-}  // namespace
+} // namespace
 
 class EditField::LineEditor : public Editor {
 public:
@@ -209,7 +211,8 @@ private:
     EditFieldLook look_;
 };
 
-EditField::EditField(Lines lines) : Control(lines == Lines::One ? static_cast<QWidget*>(new QLineEdit) : new QTextEdit) {
+EditField::EditField(Lines lines)
+    : Control(lines == Lines::One ? static_cast<QWidget*>(new QLineEdit) : new QTextEdit) {
     new FocusEvents(Widget(), *this);
     if (lines == Lines::One) {
         auto* edit = static_cast<QLineEdit*>(Widget());

@@ -8,7 +8,7 @@ namespace {
 
 bool quitting = false;
 
-}  // namespace
+} // namespace
 
 namespace events {
 
@@ -45,4 +45,4 @@ void TellUncaught(const QString& cause) {
     }
 }
 
-}  // namespace events
+} // namespace events

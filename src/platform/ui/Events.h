@@ -45,4 +45,4 @@ Result Raise(const std::function<Result(Arguments...)>& event, Given&&... argume
     return Result();
 }
 
-}  // namespace events
+} // namespace events

@@ -20,4 +20,4 @@ QFont WithSize(const QFont& font, int pixels) {
     return result;
 }
 
-}  // namespace fonts
+} // namespace fonts

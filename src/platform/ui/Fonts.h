@@ -12,4 +12,4 @@ namespace fonts {
 // In logical pixels; 0 is the platform's default size.
 [[nodiscard]] QFont WithSize(const QFont& font, int pixels);
 
-}  // namespace fonts
+} // namespace fonts

@@ -10,12 +10,12 @@ struct NamedKey {
 };
 
 constexpr NamedKey namedKeys[] = {
-    {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},    {Qt::Key_Backtab, 9}, {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},
-    {Qt::Key_Escape, 27},   {Qt::Key_Left, 28},  {Qt::Key_Right, 29},  {Qt::Key_Up, 30},     {Qt::Key_Down, 31},
-    {Qt::Key_Delete, 127},
+    {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
+    {Qt::Key_Enter, 13},    {Qt::Key_Escape, 27}, {Qt::Key_Left, 28},    {Qt::Key_Right, 29},
+    {Qt::Key_Up, 30},       {Qt::Key_Down, 31},   {Qt::Key_Delete, 127},
 };
 
-}  // namespace
+} // namespace
 
 QString KeyText(const QKeyEvent& event) {
     for (const NamedKey& named : namedKeys) {

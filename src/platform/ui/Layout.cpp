@@ -17,7 +17,7 @@ Span FollowAlongAxis(Span child, bool lockedAtStart, bool lockedAtEnd, int move,
     return child;
 }
 
-}  // namespace
+} // namespace
 
 Rect FollowParent(const Rect& child, Locks locks, const FrameChange& parent) {
     const Span across = FollowAlongAxis({child.left, child.width}, (locks & LockLeft) != 0, (locks & LockRight) != 0,

@@ -39,7 +39,7 @@ int QtAlignment(CellAlignment alignment) {
     return Qt::AlignLeft;
 }
 
-}  // namespace
+} // namespace
 
 ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
     : QStyledItemDelegate(parent), list_(list), model_(model) {}
@@ -103,9 +103,8 @@ void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& optio
         left += picture->Size().width();
     }
     Graphics graphics(painter, cell.width(), cell.height());
-    if (list_.CellTextPaint &&
-        events::Raise(list_.CellTextPaint, graphics, row, column, left,
-                      (cell.height() + painter.fontMetrics().ascent()) / 2)) {
+    if (list_.CellTextPaint && events::Raise(list_.CellTextPaint, graphics, row, column, left,
+                                             (cell.height() + painter.fontMetrics().ascent()) / 2)) {
         return;
     }
     const CellAlignment alignment = model_.Alignment(column);

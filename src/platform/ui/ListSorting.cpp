@@ -22,13 +22,12 @@ std::shared_ptr<const std::vector<QCollatorSortKey>> SortKeys(const ListModel& m
     return keys;
 }
 
-}  // namespace
+} // namespace
 
 std::function<bool(int row1, int row2)> RowOrder(const Listbox& list, const ListModel& model, int column,
                                                  Qt::SortOrder order) {
     int result = 0;
-    const bool own = list.CompareRows && model.RowCount() > 0 &&
-                     events::Raise(list.CompareRows, 0, 0, column, result);
+    const bool own = list.CompareRows && model.RowCount() > 0 && events::Raise(list.CompareRows, 0, 0, column, result);
     if (own) {
         return [&list, column, order](int row1, int row2) {
             int compared = 0;

@@ -37,7 +37,7 @@ DragItem DragOf(const QMimeData& data) {
     return DragItem{data.text()};
 }
 
-}  // namespace
+} // namespace
 
 ListView::ListView(Listbox& list, ListModel& model)
     : list_(list), model_(model), painter_(new ListPainter(list, model, this)), editor_(list, model, *this) {
@@ -261,9 +261,8 @@ void ListView::dragEnterEvent(QDragEnterEvent* event) {
 
 void ListView::dragMoveEvent(QDragMoveEvent* event) {
     const QPoint place = InList(event->position().toPoint());
-    const bool refused =
-        !event->mimeData()->hasText() ||
-        events::Raise(list_.DragOver, place.x(), place.y(), DragOf(*event->mimeData()), 0);
+    const bool refused = !event->mimeData()->hasText() ||
+                         events::Raise(list_.DragOver, place.x(), place.y(), DragOf(*event->mimeData()), 0);
     if (refused) {
         event->ignore();
     } else {

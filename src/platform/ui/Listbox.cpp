@@ -24,7 +24,7 @@ void CheckColumn(int column, int count) {
     }
 }
 
-}  // namespace
+} // namespace
 
 Listbox::Listbox() : Listbox(std::make_unique<ListModel>()) {}
 

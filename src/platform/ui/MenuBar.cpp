@@ -122,7 +122,7 @@ void RunCommand(const QString& name, MenuItemKind kind) {
     }
 }
 
-}  // namespace
+} // namespace
 
 struct MenuBar::State {
     std::map<QString, QMenu*> menuByName;
@@ -159,8 +159,8 @@ void MenuBar::AddRow(const MenuRow& row) {
     action->setObjectName(name);
     auto itemState = std::make_unique<MenuItem::State>(MenuItem::State{name, row.kind, action, QString()});
     const QKeySequence shortcut = ShortcutOf(row);
-    const bool isEdit = row.kind == MenuItemKind::EditCut || row.kind == MenuItemKind::EditCopy ||
-                        row.kind == MenuItemKind::EditPaste;
+    const bool isEdit =
+        row.kind == MenuItemKind::EditCut || row.kind == MenuItemKind::EditCopy || row.kind == MenuItemKind::EditPaste;
     // The field with the focus takes the keys of the edit commands itself, and no two actions may share a key:
     // Qt would then run neither.
     if (isEdit || (!shortcut.isEmpty() && !state_->takenShortcuts.insert(shortcut.toString()).second)) {

@@ -13,8 +13,8 @@ enum class MenuItemKind { Command, Separator, Quit, Preferences, About, EditCut,
 
 // One row of a menu bar's table.
 struct MenuRow {
-    const char* menu;     // the name of the menu that the item belongs to
-    const char* item;     // the name that handlers are bound to
+    const char* menu; // the name of the menu that the item belongs to
+    const char* item; // the name that handlers are bound to
     MenuItemKind kind;
     const char* caption;  // "&" stands before the keyboard accelerator
     const char* shortcut; // such as "Cmd+N", or empty; Cmd is the Control key

@@ -38,7 +38,7 @@ const Form& FormOf(int code) {
     return forms[0];
 }
 
-}  // namespace
+} // namespace
 
 void MsgBox(const QString& text) {
     MsgBox(text, plain, QString());

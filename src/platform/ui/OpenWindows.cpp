@@ -23,7 +23,7 @@ std::vector<std::unique_ptr<Window>>& Closed() {
     return windows;
 }
 
-}  // namespace
+} // namespace
 
 namespace OpenWindows {
 
@@ -79,4 +79,4 @@ void DestroyAll() {
     Open().clear();
 }
 
-}  // namespace OpenWindows
+} // namespace OpenWindows

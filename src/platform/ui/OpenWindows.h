@@ -25,4 +25,4 @@ void Release(Window& window);
 
 void DestroyAll();
 
-}  // namespace OpenWindows
+} // namespace OpenWindows

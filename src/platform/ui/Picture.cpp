@@ -35,13 +35,12 @@ void ApplyMask(QImage& image, const QImage& mask) {
         for (int x = 0; x < image.width(); ++x) {
             const int opacity = 255 - qGray(masks[x]);
             const QRgb pixel = qUnpremultiply(pixels[x]);
-            pixels[x] =
-                qPremultiply(qRgba(qRed(pixel), qGreen(pixel), qBlue(pixel), qAlpha(pixel) * opacity / 255));
+            pixels[x] = qPremultiply(qRgba(qRed(pixel), qGreen(pixel), qBlue(pixel), qAlpha(pixel) * opacity / 255));
         }
     }
 }
 
-}  // namespace
+} // namespace
 
 Picture::Picture(std::unique_ptr<State> state) : state_(std::move(state)) {}
 

@@ -38,7 +38,7 @@ void DoOn(Field* field, MenuItemKind kind) {
     }
 }
 
-}  // namespace
+} // namespace
 
 namespace standardedit {
 
@@ -62,4 +62,4 @@ void Do(MenuItemKind kind) {
     }
 }
 
-}  // namespace standardedit
+} // namespace standardedit

@@ -10,4 +10,4 @@ namespace standardedit {
 
 void Do(MenuItemKind kind);
 
-}  // namespace standardedit
+} // namespace standardedit

@@ -20,7 +20,7 @@ void Merge(QTextEdit* editor, int start, int length, const QTextCharFormat& form
     range.mergeCharFormat(format);
 }
 
-}  // namespace
+} // namespace
 
 StyledText::StyledText(QTextEdit* editor) : editor_(editor) {}
 
