@@ -31,7 +31,7 @@ std::vector<int> InBoth(const std::vector<int>& MatchedDrinks, const std::vector
     const std::unordered_set<int> listed(ListDrinks.begin(), ListDrinks.end());
     std::vector<int> both;
     std::copy_if(MatchedDrinks.begin(), MatchedDrinks.end(), std::back_inserter(both),
-                 [&](int id) { return listed.count(id) != 0; });
+                 [&](int id) { return listed.contains(id); });
     return both;
 }
 

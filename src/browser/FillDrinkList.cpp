@@ -75,7 +75,7 @@ bool App::FillDrinkList() {
     SetupDrinkList();
     const std::unordered_set<int> FilterDrinks(filter.FilterDrinks.begin(), filter.FilterDrinks.end());
     for (; !rs.Eof(); rs.MoveNext()) {
-        if (!filter.UseFilter() || FilterDrinks.count(rs.Field("DrinkID").IntegerValue()) != 0) {
+        if (!filter.UseFilter() || FilterDrinks.contains(rs.Field("DrinkID").IntegerValue())) {
             AddDrinkRow(*this, list, rs);
         }
     }

@@ -25,7 +25,7 @@ void IngredientMatch::Add(const RequiredRow& row) {
         currentDrink_ = row.DrinkID;
         foundRows_ = 0;
     }
-    if (barIngredients_.count(row.IngredientID) == 0) {
+    if (!barIngredients_.contains(row.IngredientID)) {
         return;
     }
     // The count only rises, so a drink reaches its number once, however many rows follow.

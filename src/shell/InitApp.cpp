@@ -15,7 +15,7 @@ bool IsFirstRun(const RecordSet& setup) {
 }
 
 RecordSet SelectSetup(REALSQLDatabase& db) {
-    const RecordSet setup = db.SQLSelect(QStringLiteral("SELECT * FROM Setup"));
+    RecordSet setup = db.SQLSelect(QStringLiteral("SELECT * FROM Setup"));
     if (db.Error()) {
         MsgBox(QStringLiteral("An error occurred getting the user's setup information: ") + db.ErrorMessage());
         db.Close();

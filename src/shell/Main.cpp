@@ -1,4 +1,5 @@
 #include "platform/ui/Application.h"
+#include "platform/ui/Picture.h"
 #include "shell/App.h"
 #include "shell/MenuBar1.h"
 #include "shell/Pictures.h"
@@ -6,6 +7,7 @@
 int main(int argc, char** argv) {
     Runtime runtime(argc, argv);
     PreparePictures();
+    runtime.SetIcon(*NamedPicture(QStringLiteral("pourbook")));
     App app;
     MenuBar1 menuBar;
     app.SetMenuBar(menuBar);

@@ -24,7 +24,7 @@ protected:
     }
 
     FolderItem GivenFolder(const QString& name) const {
-        const FolderItem item = Folder().Child(name);
+        FolderItem item = Folder().Child(name);
         item.CreateAsFolder();
         return item;
     }

@@ -65,6 +65,9 @@ Connection::Connection(const QString& path) {
     if (code != SQLITE_OK) {
         throw EngineFailure(code);
     }
+    // The rollback journal is kept as the engine has it by default, with full synchronising. A write-ahead log would
+    // make many single updates far cheaper, but a connect dearer; it needs a writable folder even to read, and leaves
+    // two files behind a kill without which the database file alone is not whole.
     sqlite3_busy_timeout(engine, BusyMilliseconds);
     InstallLike(engine);
 }

@@ -3,10 +3,14 @@
 #include "platform/ui/Events.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/OpenWindows.h"
+#include "platform/ui/Picture.h"
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStyleFactory>
 #include <QTimer>
 
@@ -101,6 +105,18 @@ Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, 
 }
 
 Runtime::~Runtime() = default;
+
+void Runtime::SetIcon(const Picture& picture) {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        picture.Draw(painter, pixmap.rect());
+        icon.addPixmap(pixmap);
+    }
+    QApplication::setWindowIcon(icon);
+}
 
 int Runtime::Run(Application& application) {
     Start(application);

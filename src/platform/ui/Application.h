@@ -8,6 +8,7 @@
 
 class MenuBar;
 class MenuItem;
+class Picture;
 
 // The one application object. A program derives its own from it; the object must outlive Runtime::Run.
 class Application {
@@ -54,6 +55,9 @@ public:
     ~Runtime();
     Runtime(const Runtime&) = delete;
     Runtime& operator=(const Runtime&) = delete;
+
+    // The icon that the desktop shows for the program's windows.
+    void SetIcon(const Picture& picture);
 
     // Raises Open and Activate and serves events until Quit is called or the last window is closed. The result is the
     // exit status.

@@ -25,6 +25,7 @@ std::vector<int> ColumnWidths(const QString& text, int columnCount, int totalWid
     const QStringList parts = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
     const int unnamed = text.contains(QLatin1Char('*')) ? 0 : takesRest;
     std::vector<int> widths;
+    widths.reserve(static_cast<std::size_t>(columnCount));
     for (int column = 0; column < columnCount; ++column) {
         widths.push_back(column < parts.size() ? FixedWidth(parts[column].trimmed(), totalWidth) : unnamed);
     }

@@ -11,10 +11,10 @@ class Window;
 
 // How one row of a window's layout table places a control.
 struct ControlPlace {
-    const char* name;        // the control's name, which tests and assistive tools find it by
-    const char* description; // what a screen reader calls it; empty for what is only decoration
-    Rect rect;               // in the window's own coordinates, also for a control inside another
-    Locks locks;
+    const char* name = "";        // the control's name, which tests and assistive tools find it by
+    const char* description = ""; // what a screen reader calls it; empty for what is only decoration
+    Rect rect;                    // in the window's own coordinates, also for a control inside another
+    Locks locks = LockNone;
 };
 
 // What every control has: a place in its window, visibility, an enabled state and the keyboard focus.

@@ -3,6 +3,7 @@
 #include "platform/ui/MsgBox.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 namespace {
 
@@ -16,10 +17,13 @@ bool QuitPending() {
     return quitting;
 }
 
-// Leaves every event loop that runs. The handlers that wait in an inner one unwind when they come back to it.
+// Leaves every event loop that runs. The handlers that wait in an inner one unwind when they come back to it. With no
+// loop running there is none to leave, and Qt would take the call for the next one.
 void BeginQuit(int exitStatus) {
     quitting = true;
-    QCoreApplication::exit(exitStatus);
+    if (QThread::currentThread()->loopLevel() > 0) {
+        QCoreApplication::exit(exitStatus);
+    }
 }
 
 void Reset() {

@@ -4,15 +4,22 @@
 #include "platform/ui/ListModel.h"
 
 #include <QCollator>
+#include <QLocale>
 
 #include <memory>
 #include <vector>
 
 namespace {
 
+// A machine without a language setting would sort by code, capitals first.
+QLocale SortingLocale() {
+    const QLocale locale = QLocale::system();
+    return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
+}
+
 // Making a key for each row once is far cheaper than collating at each comparison.
 std::shared_ptr<const std::vector<QCollatorSortKey>> SortKeys(const ListModel& model, int column) {
-    QCollator collator;
+    QCollator collator(SortingLocale());
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     auto keys = std::make_shared<std::vector<QCollatorSortKey>>();
     keys->reserve(static_cast<std::size_t>(model.RowCount()));

@@ -127,6 +127,9 @@ void ListView::ForgetSorting() {
 void ListView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     PaintEmptyRows();
+    if (focusRing_ && hasFocus()) {
+        PaintFocusRing();
+    }
 }
 
 void ListView::PaintEmptyRows() {
@@ -144,6 +147,12 @@ void ListView::PaintEmptyRows() {
                                  column);
         }
     }
+}
+
+void ListView::PaintFocusRing() {
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight).darker(170), 2));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {
@@ -232,11 +241,13 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 
 void ListView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    viewport()->update();
     events::Raise(list_.GotFocus);
 }
 
 void ListView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
+    viewport()->update();
     events::Raise(list_.LostFocus);
 }
 

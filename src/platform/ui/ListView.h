@@ -29,6 +29,7 @@ public:
     void updateGeometries() override { QTableView::updateGeometries(); }
 
     void SetHeadingsSort(bool sort);
+    void SetFocusRing(bool ring) { focusRing_ = ring; }
     // The rows are in the logic's own order again.
     void ForgetSorting();
 
@@ -52,6 +53,7 @@ private:
     // Raises MouseDown and CellClick; true when the press ends there.
     bool TakePress(QMouseEvent* event);
     void PaintEmptyRows();
+    void PaintFocusRing();
     void SortBy(int column);
     [[nodiscard]] QPoint InList(const QPoint& inViewport) const;
 
@@ -60,6 +62,7 @@ private:
     ListPainter* painter_;
     CellEditor editor_;
     QString columnWidths_;
+    bool focusRing_ = false;
     int sortedColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };

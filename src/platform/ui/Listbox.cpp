@@ -42,6 +42,7 @@ void Listbox::SetLook(const ListboxLook& look) {
     view_->setDragEnabled(look.enableDrag);
     view_->setVerticalScrollBarPolicy(look.autoHideScrollbars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOn);
     view_->SetHeadingsSort(look.headingsSort);
+    view_->SetFocusRing(look.useFocusRing);
 }
 
 int Listbox::ListIndex() const {

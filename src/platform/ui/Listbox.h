@@ -20,6 +20,7 @@ enum class CellAlignment { Left, Centre, Right };
 // The fixed properties of a list, as a window's layout gives them.
 struct ListboxLook {
     bool hasHeading = false;
+    // Whether a frame shows that the list has the keyboard focus.
     bool useFocusRing = false;
     RowSelection selection = RowSelection::Single;
     bool enableDrag = false;

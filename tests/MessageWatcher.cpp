@@ -1,0 +1,57 @@
+#include "MessageWatcher.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+MessageWatcher::MessageWatcher() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+MessageWatcher::~MessageWatcher() {
+    EXPECT_TRUE(expected_.empty()) << expected_.size() << " expected message boxes did not come";
+}
+
+void MessageWatcher::AnswerNextMessage(QMessageBox::StandardButton button) {
+    DuringNextMessage([button](QMessageBox& box) {
+        if (QAbstractButton* pressed = box.button(button); pressed != nullptr) {
+            pressed->click();
+            return;
+        }
+        ADD_FAILURE() << "the message box has no such button: " << box.text().toStdString();
+        box.done(QMessageBox::NoButton);
+    });
+}
+
+void MessageWatcher::DuringNextMessage(std::function<void(QMessageBox& box)> action) {
+    expected_.push_back(std::move(action));
+}
+
+bool MessageWatcher::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && watched->objectName() == QLatin1String("MsgBox")) {
+        if (auto* box = qobject_cast<QMessageBox*>(watched); box != nullptr) {
+            // The box's event loop begins after it was shown.
+            QTimer::singleShot(0, box, [this, box] { Answer(*box); });
+        }
+    }
+    return false;
+}
+
+void MessageWatcher::Answer(QMessageBox& box) {
+    QPushButton* preferred = box.defaultButton();
+    shown_.push_back({box.text(), box.windowTitle(), box.icon(), box.standardButtons(),
+                      preferred == nullptr ? QMessageBox::NoButton
+                                           : box.standardButton(preferred)});
+    if (expected_.empty()) {
+        ADD_FAILURE() << "an unexpected message box: " << box.text().toStdString();
+        box.done(QMessageBox::NoButton);
+        return;
+    }
+    const auto action = std::move(expected_.front());
+    expected_.pop_front();
+    action(box);
+}
