@@ -1,6 +1,12 @@
 #include "shell/App.h"
 
-App::App() {
+namespace {
+
+const QString appName = QStringLiteral("Tipplewise Pourbook");
+
+} // namespace
+
+App::App() : Application(appName), DrinkAppName(appName) {
     Open = [this] { Event_Open(); };
     Activate = [this] { Event_Activate(); };
 }

@@ -18,7 +18,7 @@ public:
     static App& Instance();
 
     // The product's name: title of the main window and name of the user's data folder.
-    const QString DrinkAppName = QStringLiteral("Tipplewise Pourbook");
+    const QString DrinkAppName;
 
     // A developer's switch, fixed at build time: work on a plain "drinkdb.rsd" in the current folder.
     static constexpr bool InDevelopment = false;

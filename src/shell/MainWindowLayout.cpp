@@ -13,13 +13,13 @@ constexpr Locks B = LockBottom;
 
 struct PlacedControl {
     Control& control;
-    Control* parent;
+    Control* parent = nullptr;
     ControlPlace place;
 };
 
 struct DressedField {
     EditField& field;
-    const char* text;
+    const char* text = "";
     EditFieldLook look;
 };
 
@@ -35,8 +35,8 @@ constexpr ShapeLook panelGround = {white, black, 0, 0};
 constexpr ShapeLook bannerGround = {bannerGrey, black, 0, 0};
 constexpr ShapeLook panelFrame = {white, bannerGrey, 1, 16};
 
-constexpr EditFieldLook Label(Color text, Color back, int size, bool bold, TextAlignment alignment) {
-    return {text, back, size, bold, alignment, true, false, true};
+constexpr EditFieldLook Label(Color foreground, Color ground, int size, bool bold, TextAlignment alignment) {
+    return {foreground, ground, size, bold, alignment, true, false, true};
 }
 
 // The two columns of a recipe do not wrap: a wrapped line would put what follows out of step with the other column.

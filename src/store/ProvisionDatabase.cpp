@@ -15,6 +15,9 @@ void App::ProvisionDatabase() {
         folder.CreateAsFolder();
         seed.CopyFileTo(folder);
     } catch (const RuntimeException&) {
+        // An empty folder would keep every later start from trying again. One that cannot be removed, or was never
+        // made, changes nothing about what the user is told.
+        static_cast<void>(folder.Delete());
         MsgBox(QStringLiteral("An error occurred attempting to create a user specific database in the folder  '") +
                    folder.AbsolutePath() + QStringLiteral("'"),
                16, QStringLiteral("Setup Error"));

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <cstdio>
 
 namespace {
 
@@ -112,6 +113,10 @@ void FolderItem::CreateAsFolder() const {
         parent.CreateAsFolder();
     }
     MakeFolder(path_);
+}
+
+bool FolderItem::Delete() const {
+    return std::remove(QFile::encodeName(AbsolutePath()).constData()) == 0;
 }
 
 void FolderItem::CopyFileTo(const FolderItem& folder) const {

@@ -3,7 +3,7 @@
 #include <QString>
 
 // A file or folder known by its absolute path, whether it exists or not. A value: copies are independent, and
-// nothing on the disk changes but by `SetName`, `CreateAsFolder` and `CopyFileTo`.
+// nothing on the disk changes but by `SetName`, `CreateAsFolder`, `Delete` and `CopyFileTo`.
 //
 // A default-constructed item is nil, and so is the parent of "/". Any use of a nil item but `IsNil`, copying and
 // assigning throws NilObjectException.
@@ -33,6 +33,9 @@ public:
     // Makes the folder and the parents that are missing, each open to the user alone (0700). A folder that is there
     // already stays as it is. Throws IOException when the system refuses.
     void CreateAsFolder() const;
+
+    // Removes the file, or the folder if it is empty. False when the system refuses; then it stays as it is.
+    [[nodiscard]] bool Delete() const;
 
     // Puts a copy of this file, under the same name and open to the user alone (0600), into `folder`. The name
     // appears in the folder only once the copy is whole and on the disk. Throws IOException, with the folder as it

@@ -3,15 +3,11 @@
 #include "platform/ui/Events.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/OpenWindows.h"
-#include "platform/ui/Picture.h"
+#include "platform/ui/Style.h"
 
 #include <QApplication>
 #include <QFont>
-#include <QIcon>
-#include <QPainter>
 #include <QPalette>
-#include <QPixmap>
-#include <QStyleFactory>
 #include <QTimer>
 
 namespace {
@@ -42,8 +38,9 @@ QPalette LightPalette() {
 
 } // namespace
 
-Application::Application() {
+Application::Application(const QString& name) {
     current = this;
+    QApplication::setApplicationName(name);
     events::Reset();
 }
 
@@ -95,7 +92,7 @@ struct Runtime::State {
 };
 
 Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, argv)) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style);
     QApplication::setPalette(LightPalette());
     QFont font = QApplication::font();
     font.setPixelSize(13);
@@ -107,15 +104,7 @@ Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, 
 Runtime::~Runtime() = default;
 
 void Runtime::SetIcon(const Picture& picture) {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        picture.Draw(painter, pixmap.rect());
-        icon.addPixmap(pixmap);
-    }
-    QApplication::setWindowIcon(icon);
+    QApplication::setWindowIcon(IconOf(picture));
 }
 
 int Runtime::Run(Application& application) {
@@ -129,6 +118,10 @@ void Runtime::Start(Application& application) {
     QTimer::singleShot(0, qApp, [&application] {
         QTimer::singleShot(0, qApp, [&application] { events::Raise(application.Activate); });
         events::Raise(application.Open);
+        // A fault in Open that left no window leaves nothing that the user could end.
+        if (OpenWindows::Any() == nullptr && !events::QuitPending()) {
+            events::BeginQuit(0);
+        }
     });
 }
 

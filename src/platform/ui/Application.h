@@ -13,7 +13,8 @@ class Picture;
 // The one application object. A program derives its own from it; the object must outlive Runtime::Run.
 class Application {
 public:
-    Application();
+    // The name stands in the title of message boxes that have no window below them.
+    explicit Application(const QString& name = {});
     virtual ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;

@@ -85,7 +85,6 @@ CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view)
       field_(std::make_unique<EditField>(line_)) {}
 
 void CellEditor::Begin(int row, int column) {
-    End();
     row_ = row;
     column_ = column;
     view_.scrollTo(model_.index(row, column));
@@ -103,9 +102,8 @@ void CellEditor::End() {
     }
     const int row = row_;
     const int column = column_;
-    const QString text = line_->text();
+    model_.SetText(row, column, line_->text());
     Abandon();
-    model_.SetText(row, column, text);
     events::Raise(list_.CellLostFocus, row, column);
 }
 
@@ -115,9 +113,14 @@ void CellEditor::Abandon() {
     }
     row_ = -1;
     column_ = -1;
-    // The list keeps the focus, so that its keys go on working, unless another control has taken it.
-    if (line_->hasFocus()) {
+    // The list keeps the focus, so that its keys go on working, unless another control has taken it. In a window that
+    // is not in front it will have it when the window comes back.
+    if (view_.window()->focusWidget() == line_) {
         view_.setFocus(Qt::OtherFocusReason);
+    }
+    // The list's GotFocus may have begun the next edit in the same field.
+    if (IsEditing()) {
+        return;
     }
     line_->hide();
 }

@@ -18,6 +18,7 @@ class CellEditor {
 public:
     CellEditor(Listbox& list, ListModel& model, ListView& view);
 
+    // No edit may be running, and the cell must exist.
     void Begin(int row, int column);
     // Ends the edit, if there is one, and raises CellLostFocus.
     void End();

@@ -93,6 +93,7 @@ bool Control::Visible() const {
 
 void Control::SetVisible(bool visible) {
     Widget()->setVisible(visible);
+    events::UnwindIfQuitting();
 }
 
 bool Control::Enabled() const {
@@ -101,6 +102,7 @@ bool Control::Enabled() const {
 
 void Control::SetEnabled(bool enabled) {
     Widget()->setEnabled(enabled);
+    events::UnwindIfQuitting();
 }
 
 void Control::SetFocus() {

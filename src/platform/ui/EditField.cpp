@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -55,6 +56,13 @@ protected:
                 PassOn(watched, event);
                 events::Raise(field_.LostFocus);
                 return true;
+            case QEvent::ShortcutOverride:
+                // A read-only field of many lines would leave the key to the menu.
+                if (static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+                    event->accept();
+                    return true;
+                }
+                return false;
             case QEvent::MouseButtonPress:
                 if (std::exchange(broughtByMouse_, false) && field_.SelLength() > 0) {
                     PassOnKeepingSelection(watched, event);
@@ -84,6 +92,10 @@ private:
     EditField& field_;
     bool broughtByMouse_ = false;
 };
+
+QString WithLineFeeds(QString text) {
+    return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
 
 QPalette FieldPalette(QPalette palette, const EditFieldLook& look) {
     palette.setColor(QPalette::Text, QColor(QRgb(look.textColor.rgb)));
@@ -125,8 +137,9 @@ public:
     void SetTextSize(int pixels) override { edit_->setFont(fonts::WithSize(edit_->font(), pixels)); }
     [[nodiscard]] QString Text() const override { return edit_->text(); }
     void SetText(const QString& text) override {
-        if (edit_->text() != text) {
-            edit_->setText(text);
+        const QString lines = WithLineFeeds(text);
+        if (edit_->text() != lines) {
+            edit_->setText(lines);
         }
     }
     [[nodiscard]] int SelStart() const override {
@@ -137,7 +150,7 @@ public:
         if (length > 0) {
             edit_->setSelection(start, length);
         } else {
-            edit_->setCursorPosition(start);
+            edit_->setCursorPosition(std::min<int>(start, static_cast<int>(edit_->text().size())));
         }
     }
 
@@ -172,8 +185,7 @@ public:
     }
     [[nodiscard]] QString Text() const override { return edit_->toPlainText(); }
     void SetText(const QString& text) override {
-        QString lines = text;
-        lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+        const QString lines = WithLineFeeds(text);
         if (edit_->toPlainText() == lines) {
             return;
         }

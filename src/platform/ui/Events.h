@@ -29,9 +29,23 @@ void TellUncaught(const QString& cause);
 // Quit, the caller must not go on.
 void UnwindIfQuitting();
 
+// Does this with a turn of the event loop in which no handler runs, which is later than any message box that a running
+// handler shows.
+void WhenIdle(std::function<void()> action);
+
+// Stands in Raise for the time of a handler.
+class Running {
+public:
+    Running();
+    ~Running();
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+};
+
 template <class Result, class... Arguments, class... Given>
 Result Raise(const std::function<Result(Arguments...)>& event, Given&&... arguments) {
     if (event && !QuitPending()) {
+        const Running running;
         try {
             return event(std::forward<Given>(arguments)...);
         } catch (const QuitRequest& request) {

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -57,7 +58,13 @@ ListView::ListView(Listbox& list, ListModel& model)
     setDropIndicatorShown(false);
     // Qt's own item drops are not used, and the move cursor would promise what does not happen.
     setDefaultDropAction(Qt::CopyAction);
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { events::Raise(list_.Change); });
+    // Without a row in either set, Qt tells only that selected rows will get other numbers.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection& selected, const QItemSelection& deselected) {
+                if (!selected.isEmpty() || !deselected.isEmpty()) {
+                    events::Raise(list_.Change);
+                }
+            });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) { SortBy(column); });
 }
 
@@ -78,6 +85,8 @@ void ListView::SetRowHeight(int height) {
     const int rowHeight = height > 0 ? height : fontMetrics().height() + 4;
     if (verticalHeader()->defaultSectionSize() != rowHeight) {
         verticalHeader()->setDefaultSectionSize(rowHeight);
+        // The wheel and the arrows of the scroll bar move by whole rows.
+        verticalScrollBar()->setSingleStep(rowHeight);
     }
 }
 
@@ -99,6 +108,12 @@ int ListView::SelectedCount() const {
         count += range.height();
     }
     return count;
+}
+
+bool ListView::IsRowSelected(int row) const {
+    const QItemSelection& selection = selectionModel()->selection();
+    return std::any_of(selection.begin(), selection.end(),
+                       [row](const QItemSelectionRange& range) { return range.top() <= row && row <= range.bottom(); });
 }
 
 // The list stays where it is scrolled to: only the user's own keys bring the current row into view.
@@ -183,17 +198,21 @@ bool ListView::TakePress(QMouseEvent* event) {
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {
-    if (!TakePress(event)) {
+    if (pressTaken_ || !TakePress(event)) {
         QTableView::mousePressEvent(event);
     }
 }
 
-// The second press of a double click is a click on the cell like the first.
+// The second press of a double click is a click on the cell like the first. Where it did not meet the same cell, Qt
+// makes a plain press of it, which must not be told once more.
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (TakePress(event)) {
         return;
     }
-    QTableView::mouseDoubleClickEvent(event);
+    {
+        const QScopedValueRollback taken(pressTaken_, true);
+        QTableView::mouseDoubleClickEvent(event);
+    }
     if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         events::Raise(list_.DoubleClick);
     }
@@ -290,6 +309,9 @@ void ListView::dropEvent(QDropEvent* event) {
 
 void ListView::SortBy(int column) {
     editor_.End();
+    if (editor_.IsEditing()) {
+        return;
+    }
     model_.Announce();
     const bool again = column == sortedColumn_ && sortOrder_ == Qt::AscendingOrder;
     sortOrder_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;

@@ -22,6 +22,8 @@ public:
 
     [[nodiscard]] int FirstSelectedRow() const;
     [[nodiscard]] int SelectedCount() const;
+    // True also when columns were added since the row was selected.
+    [[nodiscard]] bool IsRowSelected(int row) const;
     void SelectOnly(int row);
     void SelectNone();
 
@@ -63,6 +65,7 @@ private:
     CellEditor editor_;
     QString columnWidths_;
     bool focusRing_ = false;
+    bool pressTaken_ = false;
     int sortedColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };

@@ -66,7 +66,7 @@ int Listbox::SelCount() const {
 
 bool Listbox::Selected(int row) const {
     CheckRow(*model_, row);
-    return view_->selectionModel()->isRowSelected(row, {});
+    return view_->IsRowSelected(row);
 }
 
 int Listbox::ListCount() const {
@@ -198,7 +198,14 @@ int Listbox::RowFromXY(int x, int y) const {
     return view_->rowAt(view_->viewport()->mapFrom(view_, QPoint(x, y)).y());
 }
 
+// The handler that is told of the last edit's end may have removed the row, or started that edit again to hold the
+// user there; the hold is the stronger one.
 void Listbox::EditCell(int row, int column) {
+    view_->Editor().End();
+    events::UnwindIfQuitting();
+    if (view_->Editor().IsEditing()) {
+        return;
+    }
     CheckRow(*model_, row);
     CheckColumn(column, model_->ColumnCount());
     model_->Announce();

@@ -119,7 +119,8 @@ public:
     // The row at a point, or -1 where there is none.
     [[nodiscard]] int RowFromXY(int x, int y) const;
 
-    // Starts the editing of a cell, with its whole text selected; an edit that runs is ended first.
+    // Starts the editing of a cell, with its whole text selected; an edit that runs is ended first. Where the handler
+    // of that end starts an edit itself, that one stands and nothing else happens.
     void EditCell(int row, int column);
     // The field that edits a cell now, or null.
     [[nodiscard]] EditField* ActiveCell() const;

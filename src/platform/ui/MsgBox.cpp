@@ -8,18 +8,19 @@
 
 namespace {
 
+// The code of the form with one argument.
+constexpr int plain = 0;
+
 constexpr int ok = 1;
 constexpr int yes = 6;
 constexpr int no = 7;
 
 struct Form {
-    int code;
-    QMessageBox::Icon icon;
-    QMessageBox::StandardButtons buttons;
-    QMessageBox::StandardButton preferred;
+    int code = plain;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+    QMessageBox::StandardButton preferred = QMessageBox::Ok;
 };
-
-constexpr int plain = 0;
 
 const Form forms[] = {
     {plain, QMessageBox::NoIcon, QMessageBox::Ok, QMessageBox::Ok},
@@ -51,7 +52,7 @@ int MsgBox(const QString& text, int code, const QString& title) {
     QWidget* const below = QApplication::activeWindow();
     QString caption = title;
     if (caption.isEmpty()) {
-        caption = below == nullptr ? QApplication::applicationDisplayName() : below->windowTitle();
+        caption = below == nullptr ? QApplication::applicationName() : below->windowTitle();
     }
 
     QMessageBox box(below);

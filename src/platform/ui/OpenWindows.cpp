@@ -50,8 +50,8 @@ void Release(Window& window) {
     if (found != Open().end()) {
         Closed().push_back(std::move(found->second));
         Open().erase(found);
+        events::WhenIdle([] { Closed().clear(); });
     }
-    QTimer::singleShot(0, qApp, [] { Closed().clear(); });
     if (Open().empty() && !events::QuitPending()) {
         events::BeginQuit(0);
     }

@@ -14,8 +14,8 @@ Window& Add(std::type_index type, std::unique_ptr<Window> window);
 // Shows the window with the next turn of the event loop, when the handler that made it has placed and filled it.
 void ShowSoon(Window& window);
 
-// The window was closed. It is destroyed with the next turn of the event loop, because the handler that closed it may
-// be one of its own. Without another open window the run ends.
+// The window was closed. It is destroyed when the handlers that run have returned, because the one that closed it may
+// be its own. Without another open window the run ends.
 void Release(Window& window);
 
 // The window in front, or null.

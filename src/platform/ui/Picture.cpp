@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <map>
+#include <tuple>
 #include <utility>
 
 struct Picture::State {
@@ -14,8 +15,8 @@ struct Picture::State {
     QString description;
     mutable QSvgRenderer renderer;
     const Picture* mask = nullptr;
-    // By size in device pixels. A window shows a picture at one or two sizes, so this stays small.
-    mutable std::map<std::pair<int, int>, QPixmap> renderings;
+    // By size in device pixels and screen scale. A window shows a picture at one or two sizes, so this stays small.
+    mutable std::map<std::tuple<int, int, qreal>, QPixmap> renderings;
 
     [[nodiscard]] QImage Render(const QSize& deviceSize) const {
         QImage image(deviceSize, QImage::Format_ARGB32_Premultiplied);
@@ -74,7 +75,7 @@ void Picture::Draw(QPainter& painter, const QRect& rect) const {
     if (deviceSize.isEmpty()) {
         return;
     }
-    QPixmap& rendering = state_->renderings[{deviceSize.width(), deviceSize.height()}];
+    QPixmap& rendering = state_->renderings[{deviceSize.width(), deviceSize.height(), scale}];
     if (rendering.isNull()) {
         QImage image = state_->Render(deviceSize);
         if (state_->mask != nullptr) {

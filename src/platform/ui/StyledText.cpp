@@ -14,6 +14,8 @@ void Merge(QTextEdit* editor, int start, int length, const QTextCharFormat& form
         return;
     }
     const int last = editor->document()->characterCount() - 1;
+    // Qt calls a new style a change of the text too.
+    const QSignalBlocker quiet(editor);
     QTextCursor range(editor->document());
     range.setPosition(std::clamp(start, 0, last));
     range.setPosition(std::clamp(start + length, 0, last), QTextCursor::KeepAnchor);

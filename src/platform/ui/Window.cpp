@@ -22,6 +22,17 @@ public:
         menuBar_ = menuBar;
         menuBar_->setParent(this);
         menuBar_->setNativeMenuBar(false);
+        menuBar_->show();
+    }
+
+    void ApplyLimits(const WindowProperties& limits) {
+        const int above = MenuHeight();
+        if (limits.resizeable) {
+            setMinimumSize(limits.minWidth, limits.minHeight + above);
+            setMaximumSize(limits.maxWidth, limits.maxHeight + above);
+        } else {
+            setFixedSize(limits.width, limits.height + above);
+        }
     }
 
     [[nodiscard]] int MenuHeight() const { return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height(); }
@@ -78,6 +89,7 @@ Window::Window(const WindowProperties& properties) : state_(std::make_unique<Sta
     frame.setObjectName(QString::fromLatin1(properties.name));
     frame.setWindowTitle(properties.title);
     frame.setAttribute(Qt::WA_DeleteOnClose, false);
+    frame.ApplyLimits(properties);
     frame.resize(properties.width, properties.height);
     frame.LayOut();
 }
@@ -141,15 +153,8 @@ void Window::SetMenuBar(MenuBar& menuBar) {
     Frame& frame = *state_->frame;
     const QSize content = frame.Content()->size();
     frame.AddMenuBar(menuBar.MakeWidget());
-    const WindowProperties& limits = state_->properties;
-    const int menuHeight = frame.MenuHeight();
-    if (limits.resizeable) {
-        frame.setMinimumSize(limits.minWidth, limits.minHeight + menuHeight);
-        frame.setMaximumSize(limits.maxWidth, limits.maxHeight + menuHeight);
-    } else {
-        frame.setFixedSize(content.width(), content.height() + menuHeight);
-    }
-    frame.resize(content.width(), content.height() + menuHeight);
+    frame.ApplyLimits(state_->properties);
+    frame.resize(content.width(), content.height() + frame.MenuHeight());
     frame.LayOut();
 }
 

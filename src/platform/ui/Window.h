@@ -14,15 +14,15 @@ struct FrameChange;
 // The fixed properties of a window, as its layout gives them. Sizes are of the content, without the frame and the
 // menu bar.
 struct WindowProperties {
-    const char* name;
+    const char* name = "";
     QString title;
-    int width;
-    int height;
-    int minWidth;
-    int minHeight;
-    int maxWidth;
-    int maxHeight;
-    bool resizeable;
+    int width = 0;
+    int height = 0;
+    int minWidth = 0;
+    int minHeight = 0;
+    int maxWidth = 0;
+    int maxHeight = 0;
+    bool resizeable = false;
 };
 
 // A window of the program: a content area with controls, a menu bar above it if it has one, and a frame.

@@ -1,0 +1,57 @@
+#include "platform/ui/Style.h"
+
+#include "platform/ui/Picture.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+namespace {
+
+struct MessageIcon {
+    QStyle::StandardPixmap icon = QStyle::SP_MessageBoxInformation;
+    const char* picture = "";
+};
+
+constexpr MessageIcon messageIcons[] = {
+    {QStyle::SP_MessageBoxCritical, "Message_Stop"},
+    {QStyle::SP_MessageBoxWarning, "Message_Caution"},
+    {QStyle::SP_MessageBoxQuestion, "Message_Question"},
+    {QStyle::SP_MessageBoxInformation, "Message_Note"},
+};
+
+} // namespace
+
+Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    for (const MessageIcon& row : messageIcons) {
+        if (row.icon != icon) {
+            continue;
+        }
+        if (const Picture* picture = NamedPicture(QString::fromLatin1(row.picture)); picture != nullptr) {
+            return IconOf(*picture);
+        }
+    }
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returnData) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+QIcon IconOf(const Picture& picture) {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 96, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        picture.Draw(painter, pixmap.rect());
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
