@@ -130,6 +130,16 @@ void ListView::SelectNone() {
     selectionModel()->clearCurrentIndex();
 }
 
+// Qt would select a neighbour of the row that goes.
+void ListView::LetGoOf(int row) {
+    if (currentIndex().row() == row) {
+        selectionModel()->clearCurrentIndex();
+    }
+    if (IsRowSelected(row)) {
+        selectionModel()->select(model_.index(row, 0), QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    }
+}
+
 void ListView::SetHeadingsSort(bool sort) {
     horizontalHeader()->setSectionsClickable(sort);
 }
@@ -226,6 +236,12 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     // Qt would copy the text of the current cell, which is no command of a list here.
     if (event->matches(QKeySequence::Copy)) {
         event->ignore();
+        return;
+    }
+    if (SelectedCount() == 0 && model_.rowCount() > 0 && (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)) {
+        // Coming by the keyboard, Qt stands on the first row without selecting it, and would go on to the second.
+        SelectOnly(std::max(0, currentIndex().row()));
+        scrollTo(currentIndex());
         return;
     }
     QTableView::keyPressEvent(event);

@@ -26,6 +26,8 @@ public:
     [[nodiscard]] bool IsRowSelected(int row) const;
     void SelectOnly(int row);
     void SelectNone();
+    // Deselects a row that is about to be removed.
+    void LetGoOf(int row);
 
     // Public here because the list scrolls before the next paint.
     void updateGeometries() override { QTableView::updateGeometries(); }

@@ -91,6 +91,9 @@ void Listbox::RemoveRow(int row) {
     view_->Editor().Abandon();
     CheckRow(*model_, row);
     model_->Announce();
+    view_->LetGoOf(row);
+    // The handlers that were told of the edit's or the selection's end may have changed the rows.
+    CheckRow(*model_, row);
     model_->Remove(row);
     events::UnwindIfQuitting();
 }

@@ -64,7 +64,8 @@ Window* Frontmost() {
             return window.get();
         }
     }
-    return nullptr;
+    // Without a window manager no window is ever active; one that is alone is in front all the same.
+    return active == nullptr && Open().size() == 1 ? Any() : nullptr;
 }
 
 Window* Any() {

@@ -6,6 +6,7 @@
 #include "platform/ui/OpenWindows.h"
 
 #include <QCloseEvent>
+#include <QMainWindow>
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QWidget>
@@ -13,8 +14,9 @@
 #include <algorithm>
 #include <vector>
 
-// The top level widget: the menu bar, and below it the content that carries the controls.
-class Window::Frame : public QWidget {
+// The top level widget: the menu bar, and below it the content that carries the controls. It places both itself; it is
+// a QMainWindow because assistive tools know that as a window.
+class Window::Frame : public QMainWindow {
 public:
     explicit Frame(Window& owner) : owner_(owner), content_(new QWidget(this)) {}
 
@@ -55,7 +57,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override {
-        QWidget::resizeEvent(event);
+        QMainWindow::resizeEvent(event);
         LayOut();
     }
 
