@@ -12,7 +12,13 @@
 
 namespace {
 
-const QString appName = QStringLiteral("Tipplewise Pourbook");
+const QString appName = "Tipplewise Pourbook";
+
+void Connect(REALSQLDatabase& db) {
+    db.SetDatabaseFile(WorkingDatabase(true, appName));
+    db.SetEncryptionKey(DatabaseKey());
+    ASSERT_TRUE(db.Connect()) << db.ErrorMessage();
+}
 
 } // namespace
 
@@ -32,40 +38,33 @@ void PourbookTest::GivenUserFile() {
 void PourbookTest::GivenEmptyLibrary() {
     GivenUserFile();
     for (const char* table : {"Drinks", "DrinkRecipes", "Ingredients", "DrinkLists", "DrinkListXRef"}) {
-        Execute(QStringLiteral("DELETE FROM %1").arg(QString::fromLatin1(table)));
+        Execute(QString("DELETE FROM %1").arg(QString(table)));
     }
 }
 
 void PourbookTest::GivenDrink(int id, const QString& name, const QString& ingredientList, const QString& more) {
-    Execute(QStringLiteral("INSERT INTO Drinks (DrinkID, DrinkName, IngredientList, IngredientCount) "
-                           "VALUES (%1, '%2', '%3', 1)")
+    Execute(QString("INSERT INTO Drinks (DrinkID, DrinkName, IngredientList, IngredientCount) "
+                    "VALUES (%1, '%2', '%3', 1)")
                 .arg(id)
                 .arg(name, ingredientList));
     if (!more.isEmpty()) {
-        Execute(QStringLiteral("UPDATE Drinks SET %1 WHERE DrinkID = %2").arg(more).arg(id));
+        Execute(QString("UPDATE Drinks SET %1 WHERE DrinkID = %2").arg(more).arg(id));
     }
 }
 
 void PourbookTest::Execute(const QString& statement) {
     REALSQLDatabase db;
-    db.SetDatabaseFile(WorkingDatabase(true, appName));
-    db.SetEncryptionKey(DatabaseKey());
-    ASSERT_TRUE(db.Connect()) << db.ErrorMessage().toStdString();
+    Connect(db);
     db.SQLExecute(statement);
-    ASSERT_FALSE(db.Error()) << db.ErrorMessage().toStdString();
+    ASSERT_FALSE(db.Error()) << db.ErrorMessage();
 }
 
 QString PourbookTest::Value(const QString& select) {
     REALSQLDatabase db;
-    db.SetDatabaseFile(WorkingDatabase(true, appName));
-    db.SetEncryptionKey(DatabaseKey());
-    EXPECT_TRUE(db.Connect()) << db.ErrorMessage().toStdString();
-    const RecordSet rows = db.SQLSelect(QStringLiteral("SELECT (%1) AS Answer").arg(select));
-    EXPECT_FALSE(db.Error()) << db.ErrorMessage().toStdString();
-    if (rows.IsNil() || rows.Eof()) {
-        return QStringLiteral("no row");
-    }
-    return rows.Field("Answer").IsNull() ? QStringLiteral("NULL") : rows.Field("Answer").StringValue();
+    Connect(db);
+    const RecordSet rows = db.SQLSelect(QString("SELECT (%1) AS Answer").arg(select));
+    EXPECT_FALSE(db.Error()) << db.ErrorMessage();
+    return rows.Field("Answer").IsNull() ? "NULL" : rows.Field("Answer").StringValue();
 }
 
 QString PourbookTest::WorkingFile() const {
@@ -105,12 +104,12 @@ void PourbookTest::Choose(const QString& menuItem) {
     menuBar_->UpdateItems();
     for (QAction* menu : Window().Widget()->findChild<QMenuBar*>()->actions()) {
         if (auto* action = menu->menu()->findChild<QAction*>(menuItem); action != nullptr) {
-            ASSERT_TRUE(action->isEnabled()) << menuItem.toStdString();
+            ASSERT_TRUE(action->isEnabled()) << menuItem;
             action->trigger();
             return;
         }
     }
-    FAIL() << "no menu item " << menuItem.toStdString();
+    FAIL() << "no menu item " << menuItem;
 }
 
 void PourbookTest::ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers) {
@@ -141,7 +140,7 @@ QStringList PourbookTest::Headings() {
 }
 
 QString PourbookTest::Caption(const char* menuItem) {
-    return menuBar_->Item(QString::fromLatin1(menuItem)).Text();
+    return menuBar_->Item(QString(menuItem)).Text();
 }
 
 bool PourbookTest::PanelIsBlank() {

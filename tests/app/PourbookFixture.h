@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MessageWatcher.h"
+#include "PrintText.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
 #include "shell/MenuBar1.h"
@@ -51,7 +52,7 @@ protected:
 
     template <class Widget>
     [[nodiscard]] Widget* Find(const char* name) {
-        return Window().Widget()->findChild<Widget*>(QString::fromLatin1(name));
+        return Window().Widget()->findChild<Widget*>(QString(name));
     }
 
     void AnswerNextMessage(QMessageBox::StandardButton button = QMessageBox::Ok) {

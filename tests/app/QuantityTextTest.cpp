@@ -28,8 +28,6 @@ TEST(QuantityText, ReadsTheDigitsBehindThePointAsAWholeNumber) {
         {"1.5", "", "1 1/2 "},
     };
     for (const Case& row : cases) {
-        EXPECT_EQ(QuantityText(QString::fromLatin1(row.quantity), QString::fromLatin1(row.unit)).toStdString(),
-                  row.shown)
-            << "for " << row.quantity;
+        EXPECT_EQ(QuantityText(QString(row.quantity), QString(row.unit)), row.shown) << "for " << row.quantity;
     }
 }

@@ -196,6 +196,7 @@ bool ListView::TakePress(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return false;
     }
+    pressPlace_ = place;
     if (events::Raise(list_.MouseDown, inList.x(), inList.y())) {
         return true;
     }
@@ -296,6 +297,11 @@ void ListView::startDrag(Qt::DropActions /*actions*/) {
     carried->setText(item.text);
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
+    // The row itself follows the pointer.
+    const QRect shown =
+        visualRect(model_.index(row, 0)).united(visualRect(model_.index(row, model_.ColumnCount() - 1)));
+    drag->setPixmap(viewport()->grab(shown));
+    drag->setHotSpot(pressPlace_ - shown.topLeft());
     drag->exec(Qt::CopyAction);
 }
 

@@ -68,6 +68,8 @@ private:
     QString columnWidths_;
     bool focusRing_ = false;
     bool pressTaken_ = false;
+    // In the viewport; where a drag was begun.
+    QPoint pressPlace_;
     int sortedColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
