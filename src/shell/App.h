@@ -59,7 +59,7 @@ public:
     void _ApplicationAddMenuHandlers(); // NOLINT(bugprone-reserved-identifier): the field's name for it
 
     // browser/
-    bool FillDrinkList();
+    [[nodiscard]] bool FillDrinkList();
     void SetupDrinkList();
     void ShowDrinkInfo(int DrinkID);
     void ClearDrinkInfo();

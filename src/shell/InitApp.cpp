@@ -38,6 +38,18 @@ void PlaceWindowForFirstRun(MainWindow& window) {
     window.SetLeft(100);
 }
 
+// A library of another version would be read wrongly, so it is left alone.
+void RefuseOtherVersion(const App& app, REALSQLDatabase& db, const RecordSet& setup) {
+    if (setup.Field("DBVersion").IntegerValue() == currentDBVersion) {
+        return;
+    }
+    MsgBox(QStringLiteral("Your drink library was made by another version of %1, and this version cannot open it.  "
+                          "Nothing in it was changed.")
+               .arg(app.DrinkAppName));
+    db.Close();
+    Quit(0);
+}
+
 void Move(Control& control, const Rect& place) {
     control.SetLeft(place.left);
     control.SetTop(place.top);
@@ -48,6 +60,8 @@ void Move(Control& control, const Rect& place) {
 // The frames of the two lists differ by platform. The list of ingredients reaches down to the tools, which stand at
 // the bottom of the window that was just restored.
 void PlaceSidePanel(MainWindow& window, bool onMac) {
+    Move(window.SideDrinklistsLabel, {0, 50, 224, 27});
+    Move(window.SideIngredLabel, {0, 204, 224, 30});
     const int tools = window.SideTools.Top();
     if (onMac) {
         Move(window.DrinkListsList, {-2, 76, 227, 129});
@@ -74,13 +88,7 @@ void App::InitApp() {
     }
     const RecordSet setup = SelectSetup(db);
     if constexpr (!InDevelopment) {
-        if (setup.Field("DBVersion").IntegerValue() != currentDBVersion) {
-            MsgBox(QStringLiteral("Your drink library was made by another version of %1, and this version cannot "
-                                  "open it.  Nothing in it was changed.")
-                       .arg(DrinkAppName));
-            db.Close();
-            Quit(0);
-        }
+        RefuseOtherVersion(*this, db, setup);
     }
 
     MainWindow& window = MainWindow::Instance();
@@ -100,11 +108,7 @@ void App::InitApp() {
 
     PlaceSidePanel(window, OnMac);
     window.SetTitle(DrinkAppName);
-    Move(window.SideDrinklistsLabel, {0, 50, 224, 27});
-    Move(window.SideIngredLabel, {0, 204, 224, 30});
 
-    if (!FillInBarList() || !FillDrinkListsList()) {
-        return;
-    }
-    FillDrinkList();
+    // In this order; the first that fails has told the user and stops the rest.
+    static_cast<void>(FillInBarList() && FillDrinkListsList() && FillDrinkList());
 }
