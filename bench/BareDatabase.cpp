@@ -1,0 +1,52 @@
+#include "BareDatabase.h"
+
+#include "platform/database/RawKey.h"
+#include "store/DatabaseFiles.h"
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+void BareDatabase::Closer::operator()(sqlite3* engine) const {
+    sqlite3_close(engine);
+}
+
+BareDatabase::BareDatabase(const QString& path) {
+    sqlite3* engine = nullptr;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &engine, SQLITE_OPEN_READWRITE, nullptr);
+    engine_.reset(engine);
+    if (code != SQLITE_OK) {
+        Fail();
+    }
+    Walk(QStringLiteral("PRAGMA key = \"%1\"").arg(QString::fromLatin1(RawKey(path, DatabaseKey()))));
+    Walk(QStringLiteral("PRAGMA cipher_compatibility = 3"));
+    // The program's connections have room for as much.
+    Walk(QStringLiteral("PRAGMA cache_size = -65536"));
+    Walk(QStringLiteral("SELECT COUNT(*) FROM sqlite_master"));
+}
+
+int BareDatabase::Walk(const QString& statement) const {
+    sqlite3_stmt* prepared = nullptr;
+    if (sqlite3_prepare_v2(engine_.get(), statement.toUtf8().constData(), -1, &prepared, nullptr) != SQLITE_OK) {
+        Fail();
+    }
+    int count = 0;
+    int code = SQLITE_DONE;
+    for (; (code = sqlite3_step(prepared)) == SQLITE_ROW; ++count) {
+        for (int column = 0; column < sqlite3_column_count(prepared); ++column) {
+            benchmark::DoNotOptimize(sqlite3_column_text(prepared, column));
+        }
+    }
+    if (code != SQLITE_DONE) {
+        Fail();
+    }
+    sqlite3_finalize(prepared);
+    return count;
+}
+
+void BareDatabase::Fail() const {
+    std::fprintf(stderr, "The engine failed: %s\n", sqlite3_errmsg(engine_.get()));
+    std::exit(EXIT_FAILURE);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+
+// The engine itself on an encrypted file, as the measure for what the program adds to it. Every failure ends the
+// process with the engine's words.
+class BareDatabase {
+public:
+    // Opens with the raw key, as the program does from its second connection on. The page cache is empty then, and as
+    // large as the program's, so that a comparison tells what the program's own work costs.
+    explicit BareDatabase(const QString& path);
+
+    // Runs one statement, reads every cell of every row, and drops it. The result is the number of rows.
+    int Walk(const QString& statement) const;
+
+private:
+    struct Closer {
+        void operator()(sqlite3* engine) const;
+    };
+
+    [[noreturn]] void Fail() const;
+
+    std::unique_ptr<sqlite3, Closer> engine_;
+};

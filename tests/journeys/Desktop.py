@@ -1,0 +1,102 @@
+"""A screen of its own, with a window manager, a session bus and the accessibility bus."""
+
+import os
+import signal
+import subprocess
+import tempfile
+
+from Waiting import WaitFor
+
+ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
+# Debian's own settings, because Alt+F4 has to mean what it means there.
+OPENBOX_SETTINGS = "/etc/xdg/openbox/rc.xml"
+
+
+class Desktop:
+    def __init__(self):
+        self.processes = []
+        self.folder = tempfile.TemporaryDirectory(prefix="pourbook-journey-")
+        self.log = open(os.path.join(self.folder.name, "log"), "w+")
+
+    def __enter__(self):
+        try:
+            self.StartScreen()
+            self.StartBuses()
+            self.StartWindowManager()
+        except BaseException:
+            self.TellLog()
+            self.Stop()
+            raise
+        return self
+
+    def __exit__(self, kind, error, trace):
+        if kind is not None:
+            self.SavePicture(os.path.join(os.environ["JOURNEY_PICTURES"], "failed-journey.png"))
+            self.TellLog()
+        self.Stop()
+
+    def TellLog(self):
+        self.log.seek(0)
+        print("What the programs said:\n" + self.log.read())
+        for process in self.processes:
+            if process.poll() is not None:
+                print(f"{process.args} ended with {process.poll()}")
+
+    def Run(self, *command, **options):
+        """Starts a process that ends with the desktop at the latest."""
+        # In a group of its own, so that what it starts ends with it.
+        process = subprocess.Popen(command, stderr=self.log, start_new_session=True,
+                                   **{"stdout": self.log, **options})
+        self.processes.append(process)
+        return process
+
+    def StartScreen(self):
+        read, write = os.pipe()
+        # Without -noreset the screen starts anew when its last client goes, and refuses whoever comes meanwhile.
+        self.Run("Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset",
+                 pass_fds=[write])
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise AssertionError("the virtual screen did not start")
+        for name in ("WAYLAND_DISPLAY", "XAUTHORITY"):
+            os.environ.pop(name, None)
+        # The folder is open to this user alone, as a runtime folder has to be.
+        os.environ.update(DISPLAY=":" + number, QT_QPA_PLATFORM="xcb", HOME=self.folder.name,
+                          XDG_RUNTIME_DIR=self.folder.name)
+
+    def StartBuses(self):
+        bus = self.Run("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE)
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
+        self.Run(ACCESSIBILITY_BUS, "--launch-immediately")
+        os.environ.update(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="1")
+
+    def StartWindowManager(self):
+        ready = os.path.join(self.folder.name, "ready")
+        self.Run("openbox", "--config-file", OPENBOX_SETTINGS, "--startup", f"touch {ready}")
+        WaitFor(lambda: os.path.exists(ready), "the window manager")
+
+    def Stop(self):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
+        self.log.close()
+        self.folder.cleanup()
+
+    def SavePicture(self, path):
+        subprocess.run(["import", "-window", "root", path], check=False, stderr=self.log)
+        print("Picture of the screen:", path)
+
+
+def Key(*keys):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+
+
+def Type(text):
+    subprocess.run(["xdotool", "type", "--clearmodifiers", text], check=True)
+
+
+def ClickAt(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)

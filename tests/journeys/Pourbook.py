@@ -1,0 +1,100 @@
+"""The real program in its real window."""
+
+import os
+import shutil
+import subprocess
+
+import Desktop
+from Library import Library
+from Screen import List, PlaceOf, Screen, TextOf
+from Waiting import WaitFor, WaitUntilEqual
+
+PROGRAM = os.environ["POURBOOK_PROGRAM"]
+TITLE = "Tipplewise Pourbook"
+
+
+def SeedOf(program):
+    return os.path.join(os.path.dirname(os.path.dirname(program)), "Resources", "drinkdb.rsd")
+
+
+class Home:
+    """A user's data folder, which holds nothing before the program's first start."""
+
+    def __init__(self, desktop, name="home"):
+        self.path = os.path.join(desktop.folder.name, name)
+        os.mkdir(self.path)
+        self.userFolder = os.path.join(self.path, "Application Support", TITLE)
+        self.file = os.path.join(self.userFolder, "drinkdb.rsd")
+        self.library = Library(self.file)
+
+    def GivenLibrary(self):
+        """As after a first start that was never closed."""
+        os.makedirs(self.userFolder)
+        shutil.copy(SeedOf(PROGRAM), self.file)
+        return self.library
+
+
+class Pourbook:
+    def __init__(self, desktop, home, program=PROGRAM, scale=1, **options):
+        environment = dict(os.environ, XDG_DATA_HOME=home.path, QT_SCALE_FACTOR=str(scale),
+                           LSAN_OPTIONS="print_suppressions=0:suppressions=" + os.environ["LEAK_SUPPRESSIONS"])
+        self.process = desktop.Run(program, env=environment, **options)
+        self.screen = Screen(self.process.pid)
+
+    def WaitForWindow(self):
+        WaitFor(lambda: self.Drinks().Count() > 0, "the main window with drinks")
+        self.WaitForKeyboard()
+        return self
+
+    def WaitForKeyboard(self):
+        """A window takes keys only once the window manager has made it the active one."""
+        def IsActive():
+            active = Output("xdotool", "getactivewindow", "getwindowpid")
+            return int(active) == self.process.pid
+
+        WaitFor(IsActive, "the keyboard to reach the program")
+
+    def Place(self):
+        """Left, top, width and height of the content with its menu bar, without the frame."""
+        return PlaceOf(self.screen.Find(TITLE))
+
+    def Drinks(self):
+        return List(self.screen.Find("Drinks"))
+
+    def DrinkNames(self):
+        drinks = self.Drinks()
+        return drinks.Column(drinks.Headings().index("Cocktail"))
+
+    def SelectedDrinks(self):
+        names = self.DrinkNames()
+        return [names[row] for row in self.Drinks().SelectedRows()]
+
+    def Text(self, name):
+        return TextOf(self.screen.Find(name, self.screen.atspi.ROLE_TEXT))
+
+    def Click(self, element, x=None):
+        """Presses the mouse in the middle of an element, or `x` pixels from its left edge."""
+        left, top, width, height = PlaceOf(element)
+        Desktop.ClickAt(left + (width // 2 if x is None else x), top + height // 2)
+
+    def WaitForDrinks(self, names, what):
+        """The list must come to hold these, in this order."""
+        WaitUntilEqual(lambda: self.Drinks().Count(), len(names), "number of drinks " + what)
+        WaitUntilEqual(self.DrinkNames, names, "drinks " + what)
+
+    def Close(self):
+        """Closes the window as a person would, and gives the exit status."""
+        Desktop.Key("alt+F4")
+        return self.ExitStatus()
+
+    def ExitStatus(self):
+        return self.process.wait(timeout=20)
+
+
+def Output(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+
+
+def ExpectEqual(seen, expected, what):
+    if seen != expected:
+        raise AssertionError(f"{what}: expected {expected!r}, but saw {seen!r}")
