@@ -1,8 +1,11 @@
 #include "MessageWatcher.h"
 
+#include "PrintText.h"
+
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPushButton>
 #include <QTimer>
 
@@ -22,7 +25,7 @@ void MessageWatcher::AnswerNextMessage(QMessageBox::StandardButton button) {
             pressed->click();
             return;
         }
-        ADD_FAILURE() << "the message box has no such button: " << box.text().toStdString();
+        ADD_FAILURE() << "the message box has no such button: " << box.text();
         box.done(QMessageBox::NoButton);
     });
 }
@@ -32,11 +35,22 @@ void MessageWatcher::DuringNextMessage(std::function<void(QMessageBox& box)> act
 }
 
 bool MessageWatcher::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show && watched->objectName() == QLatin1String("MsgBox")) {
-        if (auto* box = qobject_cast<QMessageBox*>(watched); box != nullptr) {
-            // The box's event loop begins after it was shown.
-            QTimer::singleShot(0, box, [this, box] { Answer(*box); });
-        }
+    if (watched->objectName() != QLatin1String("MsgBox")) {
+        return false;
+    }
+    auto* box = qobject_cast<QMessageBox*>(watched);
+    if (box != nullptr && event->type() == QEvent::Show) {
+        // The box's event loop begins after it was shown.
+        QTimer::singleShot(0, box, [this, box] { Answer(*box); });
+    }
+    if (box != nullptr && event->type() == QEvent::Hide && box->parentWidget() != nullptr) {
+        // The offscreen platform has no window manager that gives the focus back.
+        QWidget* below = box->parentWidget();
+        QTimer::singleShot(0, below, [below] {
+            if (QGuiApplication::focusWindow() == nullptr && below->isVisible()) {
+                below->activateWindow();
+            }
+        });
     }
     return false;
 }
@@ -44,10 +58,9 @@ bool MessageWatcher::eventFilter(QObject* watched, QEvent* event) {
 void MessageWatcher::Answer(QMessageBox& box) {
     QPushButton* preferred = box.defaultButton();
     shown_.push_back({box.text(), box.windowTitle(), box.icon(), box.standardButtons(),
-                      preferred == nullptr ? QMessageBox::NoButton
-                                           : box.standardButton(preferred)});
+                      preferred == nullptr ? QMessageBox::NoButton : box.standardButton(preferred)});
     if (expected_.empty()) {
-        ADD_FAILURE() << "an unexpected message box: " << box.text().toStdString();
+        ADD_FAILURE() << "an unexpected message box: " << box.text();
         box.done(QMessageBox::NoButton);
         return;
     }

@@ -180,3 +180,22 @@ TEST_F(FillDrinkListTest, AHeadingSortsUntilTheNextRefill) {
     ASSERT_TRUE(Program().FillDrinkList());
     EXPECT_EQ(Listed(), "100% Rum|alexander|Planter's Punch|Zombie");
 }
+
+TEST_F(FillDrinkListTest, AFilterMayBeLargerThanAStatementCanName) {
+    GivenEmptyLibrary();
+    const QString numbers = "WITH RECURSIVE N(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < %1) ";
+    Execute(numbers.arg(5000) +
+            "INSERT INTO Drinks (DrinkID, DrinkName, IngredientCount) SELECT n, 'D' || n, 1 FROM N");
+    Execute(numbers.arg(1500) + "INSERT INTO Ingredients (IngredientID, InBar, Empty) SELECT n, 1, 0 FROM N");
+    Execute("INSERT INTO DrinkRecipes (DrinkID, IngredientID, Required) SELECT DrinkID, DrinkID % 1500 + 1, 1 FROM "
+            "Drinks WHERE DrinkID <= 4000");
+    Execute("INSERT INTO DrinkLists VALUES (1, 'Long')");
+    Execute("INSERT INTO DrinkListXRef (DrinkListID, DrinkID) SELECT 1, DrinkID FROM Drinks WHERE DrinkID > 2000");
+    Start();
+    TickMatch(true);
+    EXPECT_EQ(ListedDrinks().size(), 4000);
+    Window().DrinkListsList.SetListIndex(1);
+    EXPECT_EQ(ListedDrinks().size(), 2000);
+    TickMatch(false);
+    EXPECT_EQ(ListedDrinks().size(), 3000);
+}

@@ -1,8 +1,6 @@
 #include "PourbookFixture.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 class StartTest : public PourbookTest {
 protected:
@@ -13,28 +11,6 @@ protected:
         EXPECT_EQ(LastMessage().text, message);
     }
 };
-
-TEST_F(StartTest, FirstRunMakesAPrivateCopyAndUsesTheDefaults) {
-    Start();
-    EXPECT_EQ(Window().Left(), 100);
-    EXPECT_EQ(Window().Top(), 100);
-    EXPECT_EQ(Window().Width(), 750);
-    EXPECT_EQ(Window().Height(), 600);
-    EXPECT_EQ(Window().Title(), Program().DrinkAppName);
-    EXPECT_EQ(Program().UserOptions, "V01V05V04");
-    EXPECT_TRUE(Program().Option_ViewRatings && Program().Option_CheckForAppUpdates && Program().Option_ShareRatings);
-    EXPECT_FALSE(Program().Option_ViewGlass || Program().Option_ViewDrinkType);
-    EXPECT_EQ(Caption("View_RatingsColumn"), "Hide Ratings Column");
-    EXPECT_EQ(Caption("View_GlassColumn"), "Show Glass Column");
-    EXPECT_GE(ListedDrinks().size(), 60);
-    EXPECT_TRUE(PanelIsBlank());
-    EXPECT_EQ(Window().DrinkListsList.ListIndex(), 0);
-
-    const QFileInfo file(WorkingFile());
-    EXPECT_EQ(file.permissions() & QFile::Permissions(0x0077), QFile::Permissions());
-    EXPECT_EQ(QFileInfo(file.path()).permissions() & QFile::Permissions(0x0077), QFile::Permissions());
-    EXPECT_EQ(QDir(file.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"drinkdb.rsd"});
-}
 
 TEST_F(StartTest, ClosingStoresWindowAndOptionsAndTheNextStartRestoresThem) {
     Start();

@@ -1,0 +1,110 @@
+#include "UiFixture.h"
+#include "platform/ui/MsgBox.h"
+
+#include <QInputMethodEvent>
+#include <QLineEdit>
+
+namespace {
+
+// The handler holds the user in a cell until it has a text: it tells why, and starts the edit again.
+class ListboxEditingTest : public UiTest {
+protected:
+    ListboxEditingTest() {
+        GivenMenuBar();
+        GivenRows({"Ale", "Bock", "Cava"});
+        window->List.CellLostFocus = [this](int row, int column) {
+            log << QString("lost %1,%2 %3").arg(row).arg(column).arg(window->List.Cell(row, column));
+            if (window->List.Cell(row, column).isEmpty()) {
+                MsgBox("A name, please.");
+                window->List.SetFocus();
+                window->List.SetListIndex(row);
+                window->List.EditCell(window->List.ListIndex(), column);
+            }
+        };
+    }
+
+    void EmptyTheCell() {
+        window->List.EditCell(1, 0);
+        Press(Qt::Key_Backspace);
+        messages.AnswerNextMessage();
+    }
+
+    [[nodiscard]] QLineEdit* Editor() const { return window->Widget()->findChild<QLineEdit*>("CellEditor"); }
+};
+
+} // namespace
+
+TEST_F(ListboxEditingTest, EachEndOfAnEditIsToldOnceAndARefusalHoldsTheUser) {
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"return", [] { Press(Qt::Key_Return); }},
+        {"escape", [] { Press(Qt::Key_Escape); }},
+        {"tab", [] { Press(Qt::Key_Tab); }},
+        {"back tab", [] { Press(Qt::Key_Tab, Qt::ShiftModifier); }},
+        {"other field", [this] { Click(window->Line, QPoint(9, 9)); }},
+        {"own row", [this] { ClickCell(1, 1); }},
+        {"empty area", [this] { Click(window->List, QPoint(50, 100)); }},
+        {"focus moved", [this] { window->Many.SetFocus(); }},
+        {"other window", [] { ShowActive(Window::Implicit<OtherWindow>()); }},
+        {"menu", [this] { VisitFileMenu(); }},
+        {"another edit", [this] { window->List.EditCell(2, 0); }},
+    };
+    for (const auto& [name, end] : ends) {
+        EmptyTheCell();
+        end();
+        ShowActive(*window);
+        EXPECT_EQ(TakeLog(), QStringList({"lost 1,0 "})) << name;
+        ASSERT_TRUE(window->List.ActiveCell() != nullptr && Editor()->isVisible()) << name;
+        EXPECT_EQ(Editor()->geometry(), QRect(0, 20, 100, 20)) << name;
+        Type("Hefe");
+        end();
+        ShowActive(*window);
+        EXPECT_EQ(TakeLog(), QStringList({"lost 1,0 Hefe"})) << name;
+        EXPECT_EQ(window->List.ActiveCell() != nullptr, name == QString("another edit"));
+    }
+    window->List.RemoveRow(2);
+    EXPECT_EQ(TakeLog(), QStringList({"lost 2,0 Cava"}));
+    EmptyTheCell();
+    window->CloseEvent = [this] { log << "close"; };
+    window->Widget()->close();
+    EXPECT_EQ(log, QStringList({"lost 1,0 ", "close"}));
+}
+
+// The way of a grid that is filled by the keyboard alone.
+TEST_F(ListboxEditingTest, KeysReachCellKeyDownWhichMovesOnToTheNextCell) {
+    QString keys;
+    window->List.CellKeyDown = [&](int row, int column, const QString& key) {
+        keys += key;
+        if (key == QChar(9)) {
+            window->List.EditCell(row, column + 1);
+        }
+        return !key.at(0).isLetter();
+    };
+    window->List.EditCell(0, 0);
+    Type("Gin");
+    for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Left, Qt::Key_Right,
+                              Qt::Key_Up, Qt::Key_Down, Qt::Key_Delete, Qt::Key_Tab}) {
+        Press(key);
+    }
+    Type("oz");
+    window->Line.SetFocus();
+    EXPECT_EQ(keys, "Gin\b\r\x1B\x1C\x1D\x1E\x1F\x7F\toz");
+    EXPECT_EQ(log, QStringList({"lost 0,0 Gin", "lost 0,1 oz"}));
+}
+
+TEST_F(ListboxEditingTest, ComposedTextIsOfferedAsAKey) {
+    const QString letter = QString::fromUtf8("ê");
+    window->List.CellKeyDown = [&](int, int, const QString& key) {
+        log << key;
+        return key == "z";
+    };
+    window->List.EditCell(0, 0);
+    for (const QString& text : {letter, QString("z")}) {
+        QInputMethodEvent before("^", {});
+        QCoreApplication::sendEvent(Editor(), &before);
+        QInputMethodEvent composed;
+        composed.setCommitString(text);
+        QCoreApplication::sendEvent(Editor(), &composed);
+        EXPECT_EQ(Editor()->displayText(), letter) << text; // what was being composed is gone too
+    }
+    EXPECT_EQ(log, QStringList({letter, "z"}));
+}
