@@ -46,7 +46,7 @@ bool App::FillDrinkListsList() {
     list.AddRow(QString());
     list.SetCellTag(0, 0, 0);
     list.SetCell(0, 1, QStringLiteral("All Drinks"));
-    list.SetColumnAlignment(2, CellAlignment::Centre);
+    list.SetColumnAlignment(2, TextAlignment::Centre);
     if (!ShowCount(db, list, QStringLiteral("SELECT DrinkID FROM Drinks"))) {
         return false;
     }

@@ -109,18 +109,6 @@ QFont FieldFont(const QFont& base, const EditFieldLook& look) {
     return font;
 }
 
-Qt::Alignment QtAlignment(TextAlignment alignment) {
-    switch (alignment) {
-        case TextAlignment::Centre:
-            return Qt::AlignHCenter;
-        case TextAlignment::Right:
-            return Qt::AlignRight;
-        case TextAlignment::Left:
-            break;
-    }
-    return Qt::AlignLeft;
-}
-
 } // namespace
 
 class EditField::LineEditor : public Editor {

@@ -3,13 +3,12 @@
 #include "platform/ui/Color.h"
 #include "platform/ui/Control.h"
 #include "platform/ui/StyledText.h"
+#include "platform/ui/TextAlignment.h"
 
 #include <functional>
 #include <memory>
 
 class QLineEdit;
-
-enum class TextAlignment { Left = 1, Centre = 2, Right = 3 };
 
 // How a field looks and behaves, as a window's layout gives it.
 struct EditFieldLook {

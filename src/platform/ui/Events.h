@@ -44,7 +44,7 @@ public:
 
 template <class Result, class... Arguments, class... Given>
 Result Raise(const std::function<Result(Arguments...)>& event, Given&&... arguments) {
-    if (event && !QuitPending()) {
+    if (!QuitPending() && event) {
         const Running running;
         try {
             return event(std::forward<Given>(arguments)...);

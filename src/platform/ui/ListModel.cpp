@@ -92,12 +92,12 @@ void ListModel::SetHeading(int column, const QString& text) {
     }
 }
 
-CellAlignment ListModel::Alignment(int column) const {
+TextAlignment ListModel::Alignment(int column) const {
     const auto place = static_cast<std::size_t>(column);
-    return place < columns_.size() ? columns_[place].alignment : CellAlignment::Left;
+    return place < columns_.size() ? columns_[place].alignment : TextAlignment::Left;
 }
 
-void ListModel::SetAlignment(int column, CellAlignment alignment) {
+void ListModel::SetAlignment(int column, TextAlignment alignment) {
     ColumnAt(column).alignment = alignment;
 }
 

@@ -34,8 +34,8 @@ public:
     void SetColumnCount(int count);
     [[nodiscard]] QString Heading(int column) const;
     void SetHeading(int column, const QString& text);
-    [[nodiscard]] CellAlignment Alignment(int column) const;
-    void SetAlignment(int column, CellAlignment alignment);
+    [[nodiscard]] TextAlignment Alignment(int column) const;
+    void SetAlignment(int column, TextAlignment alignment);
 
     // Puts the rows in the order of the comparison, which is given row numbers as they were before. Rows that compare
     // equal keep their order. Views keep each row's selection.
@@ -55,7 +55,7 @@ private:
     };
     struct Column {
         QString heading;
-        CellAlignment alignment = CellAlignment::Left;
+        TextAlignment alignment = TextAlignment::Left;
     };
 
     void CellChanged(int row, int column);

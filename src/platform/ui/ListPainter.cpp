@@ -27,18 +27,6 @@ private:
     QPainter& painter_;
 };
 
-int QtAlignment(CellAlignment alignment) {
-    switch (alignment) {
-        case CellAlignment::Centre:
-            return Qt::AlignHCenter;
-        case CellAlignment::Right:
-            return Qt::AlignRight;
-        case CellAlignment::Left:
-            break;
-    }
-    return Qt::AlignLeft;
-}
-
 } // namespace
 
 ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
@@ -107,8 +95,8 @@ void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& optio
                                              (cell.height() + painter.fontMetrics().ascent()) / 2)) {
         return;
     }
-    const CellAlignment alignment = model_.Alignment(column);
-    const QRect line = alignment == CellAlignment::Centre
+    const TextAlignment alignment = model_.Alignment(column);
+    const QRect line = alignment == TextAlignment::Centre
                            ? QRect(0, 0, cell.width(), cell.height())
                            : QRect(left, 0, cell.width() - left - textMargin, cell.height());
     // A line break in a text is shown as a blank: a row has one line.

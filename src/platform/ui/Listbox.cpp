@@ -158,7 +158,7 @@ void Listbox::SetColumnWidths(const QString& widths) {
     view_->SetColumnWidths(widths);
 }
 
-void Listbox::SetColumnAlignment(int column, CellAlignment alignment) {
+void Listbox::SetColumnAlignment(int column, TextAlignment alignment) {
     CheckColumn(column, model_->ColumnCount());
     model_->SetAlignment(column, alignment);
 }

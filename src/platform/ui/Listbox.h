@@ -2,6 +2,7 @@
 
 #include "platform/ui/Control.h"
 #include "platform/ui/DragItem.h"
+#include "platform/ui/TextAlignment.h"
 
 #include <QString>
 
@@ -15,7 +16,6 @@ class ListView;
 class Picture;
 
 enum class RowSelection { Single, Multiple };
-enum class CellAlignment { Left, Centre, Right };
 
 // The fixed properties of a list, as a window's layout gives them.
 struct ListboxLook {
@@ -105,7 +105,7 @@ public:
     [[nodiscard]] int ColumnCount() const;
     // See ColumnWidths.h.
     void SetColumnWidths(const QString& widths);
-    void SetColumnAlignment(int column, CellAlignment alignment);
+    void SetColumnAlignment(int column, TextAlignment alignment);
     [[nodiscard]] QString Heading(int column) const;
     void SetHeading(int column, const QString& text);
     // In pixels; a number below 1 is the height that the font asks for.
