@@ -18,7 +18,8 @@ Cleanup() {
     done
     rm -rf "$work"
 }
-trap Cleanup EXIT
+# Bash itself may remark on a process that is already gone.
+trap 'Cleanup 2>/dev/null' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
