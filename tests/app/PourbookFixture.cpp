@@ -27,8 +27,6 @@ PourbookTest::PourbookTest() {
     PreparePictures();
 }
 
-PourbookTest::~PourbookTest() = default;
-
 void PourbookTest::GivenUserFile() {
     const FolderItem folder = UserFolder(true, appName);
     folder.CreateAsFolder();
@@ -38,15 +36,13 @@ void PourbookTest::GivenUserFile() {
 void PourbookTest::GivenEmptyLibrary() {
     GivenUserFile();
     for (const char* table : {"Drinks", "DrinkRecipes", "Ingredients", "DrinkLists", "DrinkListXRef"}) {
-        Execute(QString("DELETE FROM %1").arg(QString(table)));
+        Execute(QString("DELETE FROM ") + table);
     }
 }
 
 void PourbookTest::GivenDrink(int id, const QString& name, const QString& ingredientList, const QString& more) {
-    Execute(QString("INSERT INTO Drinks (DrinkID, DrinkName, IngredientList, IngredientCount) "
-                    "VALUES (%1, '%2', '%3', 1)")
-                .arg(id)
-                .arg(name, ingredientList));
+    const QString values = QString("VALUES (%1, '%2', '%3', 1)").arg(id).arg(name, ingredientList);
+    Execute("INSERT INTO Drinks (DrinkID, DrinkName, IngredientList, IngredientCount) " + values);
     if (!more.isEmpty()) {
         Execute(QString("UPDATE Drinks SET %1 WHERE DrinkID = %2").arg(more).arg(id));
     }
@@ -72,18 +68,14 @@ QString PourbookTest::WorkingFile() const {
 }
 
 void PourbookTest::Start() {
+    app_.reset();
+    menuBar_.reset();
     app_ = std::make_unique<App>();
     menuBar_ = std::make_unique<MenuBar1>();
     app_->SetMenuBar(*menuBar_);
     app_->_ApplicationAddMenuHandlers();
     Runtime::Start(*app_);
-    ASSERT_TRUE(WaitFor([this] { return app_->AppLoaded || HasQuit(); }));
-}
-
-void PourbookTest::StartAgain() {
-    app_.reset();
-    menuBar_.reset();
-    Start();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return app_->AppLoaded || Runtime::HasQuit(); }));
 }
 
 void PourbookTest::Search(const QString& text) {
@@ -94,22 +86,19 @@ void PourbookTest::Search(const QString& text) {
 
 void PourbookTest::TickMatch(bool ticked) {
     auto* box = Find<QCheckBox>("MatchIngredients");
-    if (box->isChecked() != ticked) {
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-    }
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
     ASSERT_EQ(box->isChecked(), ticked);
 }
 
 void PourbookTest::Choose(const QString& menuItem) {
     menuBar_->UpdateItems();
-    for (QAction* menu : Window().Widget()->findChild<QMenuBar*>()->actions()) {
-        if (auto* action = menu->menu()->findChild<QAction*>(menuItem); action != nullptr) {
-            ASSERT_TRUE(action->isEnabled()) << menuItem;
+    for (const QAction* menu : Window().Widget()->findChild<QMenuBar*>()->actions()) {
+        if (auto* action = menu->menu()->findChild<QAction*>(menuItem); action != nullptr && action->isEnabled()) {
             action->trigger();
             return;
         }
     }
-    FAIL() << "no menu item " << menuItem;
+    FAIL() << "no menu item that can be chosen is " << menuItem;
 }
 
 void PourbookTest::ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers) {
@@ -118,29 +107,21 @@ void PourbookTest::ClickDrink(int row, int column, int x, Qt::KeyboardModifiers 
     QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, QPoint(cell.left() + x, cell.center().y()));
 }
 
-void PourbookTest::CloseWindow() {
-    Window().Widget()->close();
-}
-
-QStringList PourbookTest::ListedDrinks() {
+QString PourbookTest::ListedDrinks() {
     QStringList names;
     const Listbox& list = Window().DrinkList;
     for (int row = 0; row < list.ListCount(); ++row) {
         names.append(list.Cell(row, Program().Option_ViewRatings ? 1 : 0));
     }
-    return names;
+    return names.join("|");
 }
 
-QStringList PourbookTest::Headings() {
+QString PourbookTest::Headings() {
     QStringList headings;
     for (int column = 0; column < Window().DrinkList.ColumnCount(); ++column) {
         headings.append(Window().DrinkList.Heading(column));
     }
-    return headings;
-}
-
-QString PourbookTest::Caption(const char* menuItem) {
-    return menuBar_->Item(QString(menuItem)).Text();
+    return headings.join(",");
 }
 
 bool PourbookTest::PanelIsBlank() {
@@ -148,8 +129,4 @@ bool PourbookTest::PanelIsBlank() {
     return !window.DrinkBanner.Visible() && !window.DrinkRecipeBox.Visible() && !window.DrinkGlassBox.Visible() &&
            !window.DrinkInstructionsBox.Visible() && window.DrinkName.Text().isEmpty() &&
            window.DrinkQuantities.Text().isEmpty() && window.GlassImage.Backdrop() == nullptr;
-}
-
-bool PourbookTest::WaitFor(const std::function<bool()>& condition) {
-    return QTest::qWaitFor(condition, 5000);
 }

@@ -6,58 +6,51 @@
 #include "shell/MainWindow.h"
 #include "shell/MenuBar1.h"
 
-#include <QStringList>
 #include <QTableView>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
-#include <vector>
 
 // The program in a fresh home folder, with a real window on the offscreen platform and a real encrypted library.
 class PourbookTest : public testing::Test {
 protected:
     PourbookTest();
-    ~PourbookTest() override;
 
     // Given: what the user's file holds before the program starts, or while it runs.
     void GivenUserFile();
     // The user's file without any drink, ingredient or list.
     void GivenEmptyLibrary();
-    void GivenDrink(int id, const QString& name, const QString& ingredientList, const QString& more = {});
+    void GivenDrink(int id, const QString& name, const QString& ingredientList = {}, const QString& more = {});
     void Execute(const QString& statement);
     [[nodiscard]] QString Value(const QString& select);
     [[nodiscard]] QString WorkingFile() const;
 
     // When: what happens.
+    // Ends a program that runs.
     void Start();
-    void StartAgain();
     void Search(const QString& text);
     void TickMatch(bool ticked);
     void Choose(const QString& menuItem);
     void ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void CloseWindow();
+    void CloseWindow() { Window().Widget()->close(); }
 
     // Then: what the user sees.
     [[nodiscard]] MainWindow& Window() { return MainWindow::Instance(); }
     [[nodiscard]] App& Program() { return *app_; }
-    [[nodiscard]] QStringList ListedDrinks();
-    [[nodiscard]] QStringList Headings();
-    [[nodiscard]] QString Caption(const char* menuItem);
-    [[nodiscard]] bool HasQuit() const { return Runtime::HasQuit(); }
+    // The names of the drinks, with a bar between two.
+    [[nodiscard]] QString ListedDrinks();
+    // The same for the headings of the drinks, with a comma.
+    [[nodiscard]] QString Headings();
     [[nodiscard]] bool PanelIsBlank();
-    [[nodiscard]] static bool WaitFor(const std::function<bool()>& condition);
 
     template <class Widget>
     [[nodiscard]] Widget* Find(const char* name) {
         return Window().Widget()->findChild<Widget*>(QString(name));
     }
 
-    void AnswerNextMessage(QMessageBox::StandardButton button = QMessageBox::Ok) {
-        messages_.AnswerNextMessage(button);
-    }
+    void AnswerNextMessage() { messages_.AnswerNextMessage(); }
     [[nodiscard]] ShownMessage LastMessage() const { return messages_.LastMessage(); }
 
 private:

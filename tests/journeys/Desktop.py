@@ -7,7 +7,6 @@ import tempfile
 
 from Waiting import WaitFor
 
-ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 # Debian's own settings, because Alt+F4 has to mean what it means there.
 OPENBOX_SETTINGS = "/etc/xdg/openbox/rc.xml"
 
@@ -23,24 +22,24 @@ class Desktop:
             self.StartScreen()
             self.StartBuses()
             self.StartWindowManager()
-        except BaseException:
-            self.TellLog()
-            self.Stop()
+        except BaseException as error:
+            self.__exit__(error)
             raise
         return self
 
-    def __exit__(self, kind, error, trace):
+    def __exit__(self, kind, *error):
         if kind is not None:
-            self.SavePicture(os.path.join(os.environ["JOURNEY_PICTURES"], "failed-journey.png"))
-            self.TellLog()
-        self.Stop()
-
-    def TellLog(self):
-        self.log.seek(0)
-        print("What the programs said:\n" + self.log.read())
-        for process in self.processes:
-            if process.poll() is not None:
-                print(f"{process.args} ended with {process.poll()}")
+            picture = os.path.join(os.environ["JOURNEY_PICTURES"], "failed-journey.png")
+            subprocess.run(["import", "-window", "root", picture], check=False, stderr=self.log)
+            print("Picture of the screen:", picture)
+            self.log.seek(0)
+            print("What the programs said:\n" + self.log.read())
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
+        self.log.close()
+        self.folder.cleanup()
 
     def Run(self, *command, **options):
         """Starts a process that ends with the desktop at the latest."""
@@ -60,43 +59,32 @@ class Desktop:
             number = pipe.readline().strip()
         if not number:
             raise AssertionError("the virtual screen did not start")
-        for name in ("WAYLAND_DISPLAY", "XAUTHORITY"):
-            os.environ.pop(name, None)
         # The folder is open to this user alone, as a runtime folder has to be.
         os.environ.update(DISPLAY=":" + number, QT_QPA_PLATFORM="xcb", HOME=self.folder.name,
-                          XDG_RUNTIME_DIR=self.folder.name)
+                          XDG_RUNTIME_DIR=self.folder.name, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
 
     def StartBuses(self):
         bus = self.Run("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE)
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
-        self.Run(ACCESSIBILITY_BUS, "--launch-immediately")
-        os.environ.update(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="1")
+        self.Run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
 
     def StartWindowManager(self):
         ready = os.path.join(self.folder.name, "ready")
         self.Run("openbox", "--config-file", OPENBOX_SETTINGS, "--startup", f"touch {ready}")
         WaitFor(lambda: os.path.exists(ready), "the window manager")
 
-    def Stop(self):
-        for process in reversed(self.processes):
-            if process.poll() is None:
-                os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
-        self.log.close()
-        self.folder.cleanup()
 
-    def SavePicture(self, path):
-        subprocess.run(["import", "-window", "root", path], check=False, stderr=self.log)
-        print("Picture of the screen:", path)
+def Xdotool(*command):
+    return subprocess.run(["xdotool", *command], check=True, capture_output=True, text=True).stdout.strip()
 
 
-def Key(*keys):
-    subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+def Key(key):
+    Xdotool("key", "--clearmodifiers", key)
 
 
 def Type(text):
-    subprocess.run(["xdotool", "type", "--clearmodifiers", text], check=True)
+    Xdotool("type", "--clearmodifiers", text)
 
 
 def ClickAt(x, y):
-    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+    Xdotool("mousemove", str(x), str(y), "click", "1")

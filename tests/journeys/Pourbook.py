@@ -6,15 +6,13 @@ import subprocess
 
 import Desktop
 from Library import Library
-from Screen import List, PlaceOf, Screen, TextOf
+from Screen import List, PlaceOf, Screen
 from Waiting import WaitFor, WaitUntilEqual
 
 PROGRAM = os.environ["POURBOOK_PROGRAM"]
+SEED = os.path.join(os.path.dirname(os.path.dirname(PROGRAM)), "Resources", "drinkdb.rsd")
 TITLE = "Tipplewise Pourbook"
-
-
-def SeedOf(program):
-    return os.path.join(os.path.dirname(os.path.dirname(program)), "Resources", "drinkdb.rsd")
+MATCH = "Match list of cocktails to ingredients in your bar"
 
 
 class Home:
@@ -30,15 +28,15 @@ class Home:
     def GivenLibrary(self):
         """As after a first start that was never closed."""
         os.makedirs(self.userFolder)
-        shutil.copy(SeedOf(PROGRAM), self.file)
+        shutil.copy(SEED, self.file)
         return self.library
 
 
 class Pourbook:
-    def __init__(self, desktop, home, program=PROGRAM, scale=1, **options):
-        environment = dict(os.environ, XDG_DATA_HOME=home.path, QT_SCALE_FACTOR=str(scale),
+    def __init__(self, desktop, home, *command, **options):
+        environment = dict(os.environ, XDG_DATA_HOME=home.path, QT_SCALE_FACTOR="1",
                            LSAN_OPTIONS="print_suppressions=0:suppressions=" + os.environ["LEAK_SUPPRESSIONS"])
-        self.process = desktop.Run(program, env=environment, **options)
+        self.process = desktop.Run(*(command or [PROGRAM]), env=environment, **options)
         self.screen = Screen(self.process.pid)
 
     def WaitForWindow(self):
@@ -48,11 +46,8 @@ class Pourbook:
 
     def WaitForKeyboard(self):
         """A window takes keys only once the window manager has made it the active one."""
-        def IsActive():
-            active = Output("xdotool", "getactivewindow", "getwindowpid")
-            return int(active) == self.process.pid
-
-        WaitFor(IsActive, "the keyboard to reach the program")
+        WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowpid"), str(self.process.pid),
+                       "process with the keyboard")
 
     def Place(self):
         """Left, top, width and height of the content with its menu bar, without the frame."""
@@ -63,14 +58,10 @@ class Pourbook:
 
     def DrinkNames(self):
         drinks = self.Drinks()
-        return drinks.Column(drinks.Headings().index("Cocktail"))
-
-    def SelectedDrinks(self):
-        names = self.DrinkNames()
-        return [names[row] for row in self.Drinks().SelectedRows()]
+        return [drinks.Cell(row, 1).name for row in range(drinks.Count())]
 
     def Text(self, name):
-        return TextOf(self.screen.Find(name, self.screen.atspi.ROLE_TEXT))
+        return self.screen.Find(name, self.screen.atspi.ROLE_TEXT).queryText().getText(0, -1)
 
     def Click(self, element, x=None):
         """Presses the mouse in the middle of an element, or `x` pixels from its left edge."""
@@ -83,16 +74,12 @@ class Pourbook:
         WaitUntilEqual(self.DrinkNames, names, "drinks " + what)
 
     def Close(self):
-        """Closes the window as a person would, and gives the exit status."""
+        """Closes the window as a person would."""
         Desktop.Key("alt+F4")
-        return self.ExitStatus()
+        self.ExpectEnd()
 
-    def ExitStatus(self):
-        return self.process.wait(timeout=20)
-
-
-def Output(*command):
-    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+    def ExpectEnd(self):
+        ExpectEqual(self.process.wait(timeout=20), 0, "exit status")
 
 
 def ExpectEqual(seen, expected, what):

@@ -16,7 +16,7 @@ class Screen:
         raise LookupError("the program is not on the accessibility bus")
 
     def All(self, root=None):
-        """Every element on show, parents first."""
+        """Every element, parents first."""
         for child in root or self.Application():
             if child is None:
                 continue
@@ -27,29 +27,21 @@ class Screen:
 
     def Find(self, name, role=None):
         for element in self.All():
-            if element.name == name and (role is None or element.getRole() == role) and self.IsShowing(element):
+            if element.name == name and role in (None, element.getRole()) and Has(element, self.atspi.STATE_SHOWING):
                 return element
         raise LookupError(f"nothing is called {name!r}")
 
-    def IsShowing(self, element):
-        return element.getState().contains(self.atspi.STATE_SHOWING)
+    def FocusedName(self):
+        return next((element.name for element in self.All() if Has(element, self.atspi.STATE_FOCUSED)), None)
 
-    def Has(self, element, state):
-        return element.getState().contains(state)
-
-    def Focused(self):
-        for element in self.All():
-            if element.getState().contains(self.atspi.STATE_FOCUSED):
-                return element
-        return None
-
-    def Texts(self):
-        """The names of all elements on show."""
-        return [element.name for element in self.All() if self.IsShowing(element) and element.name]
+    def Message(self):
+        """The title and the words of the message box."""
+        box = next(element for element in self.All() if element.getRole() == self.atspi.ROLE_ALERT)
+        return box.name, [child.name for child in box if child.getRole() == self.atspi.ROLE_LABEL and child.name]
 
 
-def TextOf(element):
-    return element.queryText().getText(0, -1)
+def Has(element, state):
+    return element.getState().contains(state)
 
 
 def PlaceOf(element):
@@ -73,8 +65,5 @@ class List:
     def Cell(self, row, column):
         return self.table.getAccessibleAt(row, column)
 
-    def Column(self, column):
-        return [self.Cell(row, column).name for row in range(self.Count())]
-
-    def SelectedRows(self):
-        return sorted(self.table.getSelectedRows())
+    def Row(self, row):
+        return [self.Cell(row, column).name for column in range(self.table.nColumns)]

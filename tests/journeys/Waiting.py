@@ -2,38 +2,22 @@
 
 import time
 
-TIME_LIMIT = 20.0
 
-
-class TookTooLong(AssertionError):
-    pass
-
-
-def WaitFor(condition, what, limit=TIME_LIMIT):
-    """The first true answer of the condition. What the program shows may be half changed meanwhile, so an error of
-    the accessibility bus counts as a no."""
-    deadline = time.monotonic() + limit
-    answer = None
-    while time.monotonic() < deadline:
+def WaitFor(read, what, isRight=bool):
+    """The first answer that is right. What the program shows may be half changed meanwhile, so an error of the
+    accessibility bus counts as a wrong one."""
+    deadline = time.monotonic() + 20
+    while True:
         try:
-            answer = condition()
-        except Exception as error:  # the bus has many; the last one is told below
+            answer = read()
+            if isRight(answer):
+                return answer
+        except Exception as error:  # the bus has many
             answer = error
-        if answer and not isinstance(answer, Exception):
-            return answer
+        if time.monotonic() > deadline:
+            raise AssertionError(f"waited for {what}, but saw {answer!r}")
         time.sleep(0.02)
-    raise TookTooLong(f"waited {limit:g} seconds for {what}; the last answer was {answer!r}")
 
 
-def WaitUntilEqual(read, expected, what, limit=TIME_LIMIT):
-    """Waits until `read` gives what is expected; the failure shows what it gave last."""
-    seen = [None]
-
-    def Compare():
-        seen[0] = read()
-        return seen[0] == expected
-
-    try:
-        WaitFor(Compare, what, limit)
-    except TookTooLong:
-        raise AssertionError(f"{what}: expected {expected!r}, but saw {seen[0]!r}") from None
+def WaitUntilEqual(read, expected, what):
+    WaitFor(read, f"{what}: {expected!r}", lambda seen: seen == expected)
