@@ -62,7 +62,8 @@ void App::_ApplicationAddMenuHandlers() {
     bind("Window_Zoom", &App::_Window_Zoom_Action);
 }
 
-// The command stands in the menu and does nothing yet when chosen; recipes are copied from the recipe panel's fields.
+// The command stands in the menu and does nothing when chosen, by decision; the fields of the recipe panel can be
+// selected and copied.
 bool App::_Edit_CopyRecipe_Action() {
     return false;
 }

@@ -14,25 +14,38 @@ namespace {
 
 Application* current = nullptr;
 
+struct PaletteColor {
+    QPalette::ColorGroup group = QPalette::All;
+    QPalette::ColorRole role = QPalette::NoRole;
+    QRgb rgb = 0;
+};
+
 // The pictures and the colours that the logic sets are made for light windows, so the palette does not follow a dark
 // desktop.
+constexpr PaletteColor lightColors[] = {
+    {QPalette::All, QPalette::Window, 0xEFEFEF},
+    {QPalette::All, QPalette::WindowText, 0x101010},
+    {QPalette::All, QPalette::Base, 0xFFFFFF},
+    {QPalette::All, QPalette::AlternateBase, 0xF1F5FA},
+    {QPalette::All, QPalette::Text, 0x101010},
+    {QPalette::All, QPalette::Button, 0xEFEFEF},
+    {QPalette::All, QPalette::ButtonText, 0x101010},
+    {QPalette::All, QPalette::ToolTipBase, 0xFFFFFF},
+    {QPalette::All, QPalette::ToolTipText, 0x101010},
+    {QPalette::All, QPalette::PlaceholderText, 0x8A8A8A},
+    {QPalette::All, QPalette::Highlight, 0xC3D2EC},
+    {QPalette::All, QPalette::HighlightedText, 0x101010},
+    {QPalette::Disabled, QPalette::Text, 0x9A9A9A},
+    {QPalette::Disabled, QPalette::WindowText, 0x9A9A9A},
+    {QPalette::Disabled, QPalette::ButtonText, 0x9A9A9A},
+};
+
 QPalette LightPalette() {
+    // Qt works out the shades of edges and shadows from the button's colour.
     QPalette palette(QColor(0xEFEFEF));
-    palette.setColor(QPalette::Window, QColor(0xEFEFEF));
-    palette.setColor(QPalette::WindowText, QColor(0x101010));
-    palette.setColor(QPalette::Base, QColor(0xFFFFFF));
-    palette.setColor(QPalette::AlternateBase, QColor(0xF1F5FA));
-    palette.setColor(QPalette::Text, QColor(0x101010));
-    palette.setColor(QPalette::Button, QColor(0xEFEFEF));
-    palette.setColor(QPalette::ButtonText, QColor(0x101010));
-    palette.setColor(QPalette::ToolTipBase, QColor(0xFFFFFF));
-    palette.setColor(QPalette::ToolTipText, QColor(0x101010));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x8A8A8A));
-    palette.setColor(QPalette::Highlight, QColor(0xC3D2EC));
-    palette.setColor(QPalette::HighlightedText, QColor(0x101010));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x9A9A9A));
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x9A9A9A));
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x9A9A9A));
+    for (const PaletteColor& color : lightColors) {
+        palette.setColor(color.group, color.role, QColor(color.rgb));
+    }
     return palette;
 }
 
