@@ -11,12 +11,6 @@ constexpr Locks T = LockTop;
 constexpr Locks R = LockRight;
 constexpr Locks B = LockBottom;
 
-struct PlacedControl {
-    Control& control;
-    Control* parent = nullptr;
-    ControlPlace place;
-};
-
 struct DressedField {
     EditField& field;
     const char* text = "";
@@ -47,45 +41,46 @@ constexpr EditFieldLook Column(TextAlignment alignment) {
 } // namespace
 
 void MainWindow::PlaceControls() {
-    const PlacedControl rows[] = {
-        {Rectangle1, nullptr, {"Rectangle1", "", {0, 51, 225, 474}, T | B}},
-        {InBarList, &Rectangle1, {"InBarList", "Ingredients in your bar", {7, 238, 211, 285}, L | T | B}},
-        {DrinkListsList, &Rectangle1, {"DrinkListsList", "Drinklists", {7, 81, 211, 118}, LockNone}},
-        {DrinkList, nullptr, {"DrinkList", "Drinks", {224, 50, 527, 193}, L | T | R | B}},
-        {Separator3, &DrinkList, {"Separator3", "", {750, 51, 1, 192}, T | R | B}},
-        {Separator4, &DrinkList, {"Separator4", "", {224, 51, 1, 192}, L | T | B}},
-        {Separator1, nullptr, {"Separator1", "", {0, 50, 750, 1}, L | T | R}},
-        {MatchIngredients, nullptr, {"MatchIngredients", "", {224, 16, 260, 20}, T}},
-        {SideTools, nullptr, {"SideTools", "", {0, 525, 225, 25}, L | B}},
-        {DrinkListAdd, &SideTools, {"DrinkListAdd", "Add a drinklist", {0, 525, 34, 25}, B}},
-        {IngredAdd, &SideTools, {"IngredAdd", "Choose the ingredients in your bar", {34, 525, 46, 25}, B}},
-        {Canvas5, &SideTools, {"Canvas5", "Checkmark: in stock, e: empty", {146, 525, 79, 25}, B}},
-        {RandomDrink, nullptr, {"RandomDrink", "", {7, 16, 150, 20}, LockNone}},
-        {Canvas6, nullptr, {"Canvas6", "", {562, 13, 182, 26}, R}},
-        {SearchBox, &Canvas6, {"SearchBox", "Search drinks", {587, 19, 145, 16}, T | R}},
-        {SideDrinklistsLabel, &Rectangle1, {"SideDrinklistsLabel", "Drinklists", {7, 51, 218, 27}, LockNone}},
-        {SideIngredLabel, &Rectangle1, {"SideIngredLabel", "In your bar", {7, 204, 218, 30}, LockNone}},
-        {Separator5, nullptr, {"Separator5", "", {224, 51, 1, 499}, T | B}},
-        {Canvas1, nullptr, {"Canvas1", "", {225, 242, 524, 10}, L | R | B}},
+    PlaceAll(
+        *this,
+        {
+            {Rectangle1, nullptr, {"Rectangle1", "", {0, 51, 225, 474}, T | B}},
+            {InBarList, &Rectangle1, {"InBarList", "Ingredients in your bar", {7, 238, 211, 285}, L | T | B}},
+            {DrinkListsList, &Rectangle1, {"DrinkListsList", "Drinklists", {7, 81, 211, 118}, LockNone}},
+            {DrinkList, nullptr, {"DrinkList", "Drinks", {224, 50, 527, 193}, L | T | R | B}},
+            {Separator3, &DrinkList, {"Separator3", "", {750, 51, 1, 192}, T | R | B}},
+            {Separator4, &DrinkList, {"Separator4", "", {224, 51, 1, 192}, L | T | B}},
+            {Separator1, nullptr, {"Separator1", "", {0, 50, 750, 1}, L | T | R}},
+            {MatchIngredients, nullptr, {"MatchIngredients", "", {224, 16, 260, 20}, T}},
+            {SideTools, nullptr, {"SideTools", "", {0, 525, 225, 25}, L | B}},
+            {DrinkListAdd, &SideTools, {"DrinkListAdd", "Add a drinklist", {0, 525, 34, 25}, B}},
+            {IngredAdd, &SideTools, {"IngredAdd", "Choose the ingredients in your bar", {34, 525, 46, 25}, B}},
+            {Canvas5, &SideTools, {"Canvas5", "Checkmark: in stock, e: empty", {146, 525, 79, 25}, B}},
+            {RandomDrink, nullptr, {"RandomDrink", "", {7, 16, 150, 20}, LockNone}},
+            {Canvas6, nullptr, {"Canvas6", "", {562, 13, 182, 26}, R}},
+            {SearchBox, &Canvas6, {"SearchBox", "Search drinks", {587, 19, 145, 16}, T | R}},
+            {SideDrinklistsLabel, &Rectangle1, {"SideDrinklistsLabel", "Drinklists", {7, 51, 218, 27}, LockNone}},
+            {SideIngredLabel, &Rectangle1, {"SideIngredLabel", "In your bar", {7, 204, 218, 30}, LockNone}},
+            {Separator5, nullptr, {"Separator5", "", {224, 51, 1, 499}, T | B}},
+            {Canvas1, nullptr, {"Canvas1", "", {225, 242, 524, 10}, L | R | B}},
 
-        {Rectangle2, nullptr, {"Rectangle2", "", {225, 252, 524, 298}, L | R | B}},
-        {DrinkBanner, &Rectangle2, {"DrinkBanner", "", {225, 260, 524, 29}, L | R}},
-        {DrinkName, &DrinkBanner, {"DrinkName", "Drink name", {238, 266, 288, 20}, L | T | R}},
-        {DrinkType, &DrinkBanner, {"DrinkType", "Drink type", {530, 268, 203, 17}, T | R}},
-        {DrinkRecipeBox, &Rectangle2, {"DrinkRecipeBox", "", {239, 371, 243, 167}, L | R | B}},
-        {DrinkGlassBox, &Rectangle2, {"DrinkGlassBox", "", {492, 371, 241, 167}, R | B}},
-        {DrinkGlassLabel, &Rectangle2, {"DrinkGlassLabel", "Glass", {504, 365, 42, 14}, R | B}},
-        {DrinkQuantities, &DrinkRecipeBox, {"DrinkQuantities", "Quantities", {246, 386, 59, 148}, B}},
-        {DrinkIngredients, &DrinkRecipeBox, {"DrinkIngredients", "Ingredients", {310, 386, 170, 148}, L | R | B}},
-        {GlassImage, &DrinkGlassBox, {"GlassImage", "Glass", {498, 375, 232, 156}, R | B}},
-        {DrinkInstructionsBox, &Rectangle2, {"DrinkInstructionsBox", "", {239, 305, 494, 55}, L | R | B}},
-        {DrinkInstructions, &DrinkInstructionsBox, {"DrinkInstructions", "Instructions", {256, 317, 470, 35}, L | R}},
-        {DrinkRecipeLabel, &Rectangle2, {"DrinkRecipeLabel", "Recipe", {251, 365, 46, 14}, B}},
-        {DrinkInstructionsLabel, &Rectangle2, {"DrinkInstructionsLabel", "Instructions", {251, 299, 75, 14}, B}},
-    };
-    for (const PlacedControl& row : rows) {
-        row.control.Place(*this, row.parent, row.place);
-    }
+            {Rectangle2, nullptr, {"Rectangle2", "", {225, 252, 524, 298}, L | R | B}},
+            {DrinkBanner, &Rectangle2, {"DrinkBanner", "", {225, 260, 524, 29}, L | R}},
+            {DrinkName, &DrinkBanner, {"DrinkName", "Drink name", {238, 266, 288, 20}, L | T | R}},
+            {DrinkType, &DrinkBanner, {"DrinkType", "Drink type", {530, 268, 203, 17}, T | R}},
+            {DrinkRecipeBox, &Rectangle2, {"DrinkRecipeBox", "", {239, 371, 243, 167}, L | R | B}},
+            {DrinkGlassBox, &Rectangle2, {"DrinkGlassBox", "", {492, 371, 241, 167}, R | B}},
+            {DrinkGlassLabel, &Rectangle2, {"DrinkGlassLabel", "Glass", {504, 365, 42, 14}, R | B}},
+            {DrinkQuantities, &DrinkRecipeBox, {"DrinkQuantities", "Quantities", {246, 386, 59, 148}, B}},
+            {DrinkIngredients, &DrinkRecipeBox, {"DrinkIngredients", "Ingredients", {310, 386, 170, 148}, L | R | B}},
+            {GlassImage, &DrinkGlassBox, {"GlassImage", "Glass", {498, 375, 232, 156}, R | B}},
+            {DrinkInstructionsBox, &Rectangle2, {"DrinkInstructionsBox", "", {239, 305, 494, 55}, L | R | B}},
+            {DrinkInstructions,
+             &DrinkInstructionsBox,
+             {"DrinkInstructions", "Instructions", {256, 317, 470, 35}, L | R}},
+            {DrinkRecipeLabel, &Rectangle2, {"DrinkRecipeLabel", "Recipe", {251, 365, 46, 14}, B}},
+            {DrinkInstructionsLabel, &Rectangle2, {"DrinkInstructionsLabel", "Instructions", {251, 299, 75, 14}, B}},
+        });
 }
 
 void MainWindow::DressControls() {

@@ -138,3 +138,9 @@ void Control::ShowAt(const Rect& rect) {
     Widget()->setGeometry(rect.left - originLeft, rect.top - originTop, std::max(0, rect.width),
                           std::max(0, rect.height));
 }
+
+void PlaceAll(Window& window, std::initializer_list<PlacedControl> rows) {
+    for (const PlacedControl& row : rows) {
+        row.control.Place(window, row.parent, row.place);
+    }
+}

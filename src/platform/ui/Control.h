@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <initializer_list>
 #include <memory>
 
 class QWidget;
@@ -68,3 +69,13 @@ private:
 
     std::unique_ptr<State> state_;
 };
+
+// One row of a window's layout table. Rows stand in creation order: later controls lie above, and the tab key goes in
+// that order.
+struct PlacedControl {
+    Control& control;
+    Control* parent = nullptr;
+    ControlPlace place;
+};
+
+void PlaceAll(Window& window, std::initializer_list<PlacedControl> rows);

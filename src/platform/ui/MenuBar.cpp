@@ -98,8 +98,12 @@ bool CanRun(const QString& name, MenuItemKind kind) {
     }
 }
 
-// Quitting closes the windows, so that each one's CloseEvent comes, as if the user had closed them.
+// Quitting closes the windows, so that each one's CloseEvent comes, as if the user had closed them; what stands in a
+// floating window counts before the document window writes it down.
 void CloseAllWindows() {
+    while (Window* window = OpenWindows::Floating()) {
+        window->Close();
+    }
     while (Window* window = OpenWindows::Any()) {
         window->Close();
     }
@@ -197,4 +201,10 @@ QMenuBar* MenuBar::MakeWidget() {
         widget->addMenu(menu.get());
     }
     return widget;
+}
+
+void MenuBar::AddShortcutsTo(QWidget& window) const {
+    for (const auto& item : state_->items) {
+        window.addAction(item->state_->action);
+    }
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 class QMenuBar;
+class QWidget;
 
 // What kind of command a menu item is. The platform gives quit and preferences its own standard shortcuts where the
 // item has none. The edit kinds act on the text field that has the focus and need no handler.
@@ -68,6 +69,8 @@ public:
 
     // For the layer itself: a widget for one window that shows the bar. The caller owns it.
     [[nodiscard]] QMenuBar* MakeWidget();
+    // For the layer itself: lets a window without the bar have its shortcuts.
+    void AddShortcutsTo(QWidget& window) const;
 
 private:
     struct State;

@@ -23,6 +23,12 @@ std::vector<std::unique_ptr<Window>>& Closed() {
     return windows;
 }
 
+Window* OfKind(WindowKind kind) {
+    const auto found =
+        std::find_if(Open().begin(), Open().end(), [kind](const auto& entry) { return entry.second->Kind() == kind; });
+    return found == Open().end() ? nullptr : found->second.get();
+}
+
 } // namespace
 
 namespace OpenWindows {
@@ -52,7 +58,7 @@ void Release(Window& window) {
         Open().erase(found);
         events::WhenIdle([] { Closed().clear(); });
     }
-    if (Open().empty() && !events::QuitPending()) {
+    if (window.Kind() == WindowKind::Document && Document() == nullptr && !events::QuitPending()) {
         events::BeginQuit(0);
     }
 }
@@ -70,6 +76,14 @@ Window* Frontmost() {
 
 Window* Any() {
     return Open().empty() ? nullptr : Open().begin()->second.get();
+}
+
+Window* Document() {
+    return OfKind(WindowKind::Document);
+}
+
+Window* Floating() {
+    return OfKind(WindowKind::Floating);
 }
 
 void DestroyAll() {

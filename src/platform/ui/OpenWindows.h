@@ -15,13 +15,15 @@ Window& Add(std::type_index type, std::unique_ptr<Window> window);
 void ShowSoon(Window& window);
 
 // The window was closed. It is destroyed when the handlers that run have returned, because the one that closed it may
-// be its own. Without another open window the run ends.
+// be its own. The run ends with the last document window; floating windows do not go on without one.
 void Release(Window& window);
 
 // The window in front, or null.
 [[nodiscard]] Window* Frontmost();
-// One of the open windows, or null when there is none.
+// One of the open windows, of any kind or of one, or null when there is none.
 [[nodiscard]] Window* Any();
+[[nodiscard]] Window* Document();
+[[nodiscard]] Window* Floating();
 
 void DestroyAll();
 

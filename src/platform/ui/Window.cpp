@@ -4,96 +4,25 @@
 #include "platform/ui/Events.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/OpenWindows.h"
+#include "platform/ui/WindowFrame.h"
 
-#include <QCloseEvent>
-#include <QMainWindow>
 #include <QMenuBar>
-#include <QResizeEvent>
-#include <QWidget>
 
-#include <algorithm>
 #include <vector>
-
-// The top level widget: the menu bar, and below it the content that carries the controls. It places both itself; it is
-// a QMainWindow because assistive tools know that as a window.
-class Window::Frame : public QMainWindow {
-public:
-    explicit Frame(Window& owner) : owner_(owner), content_(new QWidget(this)) {}
-
-    void AddMenuBar(QMenuBar* menuBar) {
-        menuBar_ = menuBar;
-        menuBar_->setParent(this);
-        menuBar_->setNativeMenuBar(false);
-        menuBar_->show();
-    }
-
-    void ApplyLimits(const WindowProperties& limits) {
-        const int above = MenuHeight();
-        if (limits.resizeable) {
-            setMinimumSize(limits.minWidth, limits.minHeight + above);
-            setMaximumSize(limits.maxWidth, limits.maxHeight + above);
-        } else {
-            setFixedSize(limits.width, limits.height + above);
-        }
-    }
-
-    [[nodiscard]] int MenuHeight() const { return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height(); }
-    [[nodiscard]] QWidget* Content() const { return content_; }
-
-    // The window system reports a size only once the window is on the screen; the logic reads places before that.
-    void LayOut() {
-        const int menuHeight = MenuHeight();
-        if (menuBar_ != nullptr) {
-            menuBar_->setGeometry(0, 0, width(), menuHeight);
-        }
-        const QSize before = content_->size();
-        content_->setGeometry(0, menuHeight, width(), std::max(0, height() - menuHeight));
-        const QSize after = content_->size();
-        if (laidOut_ && before != after) {
-            owner_.ContentResized({0, 0, after.width() - before.width(), after.height() - before.height()});
-        }
-        laidOut_ = true;
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* event) override {
-        QMainWindow::resizeEvent(event);
-        LayOut();
-    }
-
-    void closeEvent(QCloseEvent* event) override {
-        // An edit in a cell ends before the window does, so that its text reaches the handler.
-        if (QWidget* focused = focusWidget(); focused != nullptr) {
-            focused->clearFocus();
-        }
-        owner_.OnClosed();
-        event->accept();
-    }
-
-private:
-    Window& owner_;
-    QWidget* content_;
-    QMenuBar* menuBar_ = nullptr;
-    bool laidOut_ = false;
-};
 
 struct Window::State {
     WindowProperties properties;
-    std::unique_ptr<Frame> frame;
+    std::unique_ptr<WindowFrame> frame;
     std::vector<Control*> controls;
     bool closed = false;
 };
 
 Window::Window(const WindowProperties& properties) : state_(std::make_unique<State>()) {
     state_->properties = properties;
-    state_->frame = std::make_unique<Frame>(*this);
-    Frame& frame = *state_->frame;
-    frame.setObjectName(QString::fromLatin1(properties.name));
-    frame.setWindowTitle(properties.title);
-    frame.setAttribute(Qt::WA_DeleteOnClose, false);
-    frame.ApplyLimits(properties);
-    frame.resize(properties.width, properties.height);
-    frame.LayOut();
+    state_->frame = std::make_unique<WindowFrame>(properties);
+    WindowFrame& frame = *state_->frame;
+    frame.Resized = [this](const FrameChange& change) { ContentResized(change); };
+    frame.Closed = [this] { OnClosed(); };
 }
 
 Window::~Window() = default;
@@ -152,10 +81,14 @@ void Window::SetTitle(const QString& title) {
 }
 
 void Window::SetMenuBar(MenuBar& menuBar) {
-    Frame& frame = *state_->frame;
+    WindowFrame& frame = *state_->frame;
+    if (Kind() != WindowKind::Document) {
+        menuBar.AddShortcutsTo(frame);
+        return;
+    }
     const QSize content = frame.Content()->size();
     frame.AddMenuBar(menuBar.MakeWidget());
-    frame.ApplyLimits(state_->properties);
+    frame.ApplyLimits();
     frame.resize(content.width(), content.height() + frame.MenuHeight());
     frame.LayOut();
 }
@@ -182,6 +115,10 @@ void Window::Close() {
 
 QWidget* Window::Widget() const {
     return state_->frame.get();
+}
+
+WindowKind Window::Kind() const {
+    return state_->properties.kind;
 }
 
 QWidget* Window::Content() const {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/ui/Color.h"
+
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <typeindex>
 
 class Control;
@@ -11,11 +14,16 @@ class MenuBar;
 class QWidget;
 struct FrameChange;
 
+// What a window is to the others. The run ends when the last document window is closed. A floating window stays above
+// the document window and does not block it; it has the menu bar's shortcuts but does not show the bar. A dialog has
+// neither a menu bar nor a close box and stands in the middle of the screen.
+enum class WindowKind { Document, Floating, Dialog };
+
 // The fixed properties of a window, as its layout gives them. Sizes are of the content, without the frame and the
-// menu bar.
+// menu bar; the limits count only where the window is resizeable.
 struct WindowProperties {
     const char* name = "";
-    QString title;
+    QString title = QString();
     int width = 0;
     int height = 0;
     int minWidth = 0;
@@ -23,6 +31,10 @@ struct WindowProperties {
     int maxWidth = 0;
     int maxHeight = 0;
     bool resizeable = false;
+    WindowKind kind = WindowKind::Document;
+    bool minimizeable = true;
+    std::optional<Color> backColor = std::nullopt; // without one, the platform's own
+    const char* backdrop = "";                     // the name of the picture that fills the content, or empty
 };
 
 // A window of the program: a content area with controls, a menu bar above it if it has one, and a frame.
@@ -56,6 +68,7 @@ public:
 
     [[nodiscard]] QString Title() const;
     void SetTitle(const QString& title);
+    // A document window shows the menu bar; a floating one has its shortcuts.
     void SetMenuBar(MenuBar& menuBar);
 
     // Shows the window or brings it to the front.
@@ -73,10 +86,10 @@ public:
 
     // For the layer itself.
     [[nodiscard]] QWidget* Widget() const;
+    [[nodiscard]] WindowKind Kind() const;
 
 private:
     friend class Control;
-    class Frame;
     struct State;
 
     static Window& Implicit(std::type_index type, const std::function<std::unique_ptr<Window>()>& create);

@@ -1,0 +1,50 @@
+#include "UiFixture.h"
+#include "platform/ui/StaticText.h"
+
+namespace {
+
+class FloatingWindow : public Window {
+public:
+    FloatingWindow() : Window({.name = "FloatingWindow", .width = 200, .height = 100, .kind = WindowKind::Floating}) {
+        Link.Place(*this, nullptr, {"Link", "", {10, 10, 100, 20}});
+        Link.SetText("More");
+        Link.SetMouseCursor(MouseCursor::FingerPointer);
+    }
+
+    StaticText Link;
+};
+
+using FloatingWindowTest = UiTest;
+
+} // namespace
+
+TEST_F(FloatingWindowTest, StaysAboveTheDocumentTakesItsShortcutsAndGoesBeforeIt) {
+    GivenMenuBar();
+    application->AddMenuHandler("File_Print", [this] {
+        log << "print";
+        return false;
+    });
+    auto& floating = Window::Implicit<FloatingWindow>();
+    floating.SetMenuBar(*menuBar);
+    floating.CloseEvent = [this] { log << "floating closed"; };
+    window->CloseEvent = [this] { log << "document closed"; };
+    floating.Link.MouseDown = [this](int /*x*/, int /*y*/) {
+        log << "link";
+        return false;
+    };
+    ShowActive(floating);
+
+    EXPECT_EQ(floating.Widget()->windowHandle()->transientParent(), Handle());
+    EXPECT_EQ(floating.Height(), 100); // no menu bar above the content
+    Press(Qt::Key_P, Qt::ControlModifier);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TakeLog(), QStringList({"print", "link"}));
+
+    floating.Close();
+    EXPECT_FALSE(Runtime::HasQuit());
+    Window::Implicit<FloatingWindow>().CloseEvent = [this] { log << "second closed"; };
+    window->Widget()->close();
+    EXPECT_EQ(TakeLog(), QStringList({"floating closed", "document closed"}));
+    EXPECT_TRUE(Runtime::HasQuit());
+}
