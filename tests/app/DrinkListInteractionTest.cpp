@@ -1,7 +1,10 @@
 #include "PourbookFixture.h"
+#include "browser/Rating.h"
 #include "platform/ui/Picture.h"
 
+#include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 
@@ -54,6 +57,25 @@ TEST_F(DrinkListInteractionTest, RatingNeedsAClickOnTheSelectedRow) {
     ClickDrink(2, 1, 20, Qt::ControlModifier);
     ClickDrink(2, 0, 40, Qt::ControlModifier);
     EXPECT_EQ(StoredRating(13), "NULL") << "of several selected rows only the first is rated";
+}
+
+TEST_F(DrinkListInteractionTest, EachStarIsDrawnWhereAClickSetsIt) {
+    const auto drawn = [](int rating) {
+        QImage image(RatingPicture(rating)->Size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        RatingPicture(rating)->Draw(painter, image.rect());
+        return image;
+    };
+    for (int rating = 1; rating <= 5; ++rating) {
+        const QImage without = drawn(rating - 1);
+        const QImage with = drawn(rating);
+        ASSERT_NE(with, without);
+        for (int pixel = 0; pixel < with.width() * with.height(); ++pixel) {
+            const QPoint point(pixel % with.width(), pixel / with.width());
+            ASSERT_TRUE(with.pixel(point) == without.pixel(point) || RatingAt(point.x()) == rating) << point.x();
+        }
+    }
 }
 
 TEST_F(DrinkListInteractionTest, ARatingThatCannotBeStoredIsToldAndStaysOnTheScreen) {
