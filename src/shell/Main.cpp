@@ -7,7 +7,8 @@
 int main(int argc, char** argv) {
     Runtime runtime(argc, argv);
     PreparePictures();
-    runtime.SetIcon(*NamedPicture(QStringLiteral("pourbook")));
+    runtime.SetIcon({NamedPicture(QStringLiteral("pourbook_16")), NamedPicture(QStringLiteral("pourbook_32")),
+                     NamedPicture(QStringLiteral("pourbook"))});
     App app;
     MenuBar1 menuBar;
     app.SetMenuBar(menuBar);

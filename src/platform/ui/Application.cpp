@@ -116,8 +116,8 @@ Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, 
 
 Runtime::~Runtime() = default;
 
-void Runtime::SetIcon(const Picture& picture) {
-    QApplication::setWindowIcon(IconOf(picture));
+void Runtime::SetIcon(const std::vector<const Picture*>& drawings) {
+    QApplication::setWindowIcon(IconOf(drawings));
 }
 
 int Runtime::Run(Application& application) {

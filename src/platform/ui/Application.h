@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 class MenuBar;
 class MenuItem;
@@ -57,8 +58,9 @@ public:
     Runtime(const Runtime&) = delete;
     Runtime& operator=(const Runtime&) = delete;
 
-    // The icon that the desktop shows for the program's windows.
-    void SetIcon(const Picture& picture);
+    // The icon that the desktop shows for the program's windows: at least one drawing, the smallest first. Small sizes
+    // need less detail, so each size takes the last drawing that is not larger than it.
+    void SetIcon(const std::vector<const Picture*>& drawings);
 
     // Raises Open and Activate and serves events until Quit is called or the last window is closed. The result is the
     // exit status.

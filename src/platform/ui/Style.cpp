@@ -19,6 +19,16 @@ constexpr MessageIcon messageIcons[] = {
     {QStyle::SP_MessageBoxInformation, "Message_Note"},
 };
 
+const Picture& DrawingFor(int size, const std::vector<const Picture*>& drawings) {
+    const Picture* nearest = drawings.front();
+    for (const Picture* drawing : drawings) {
+        if (drawing->Size().width() <= size) {
+            nearest = drawing;
+        }
+    }
+    return *nearest;
+}
+
 } // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -29,7 +39,7 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
             continue;
         }
         if (const Picture* picture = NamedPicture(QString::fromLatin1(row.picture)); picture != nullptr) {
-            return IconOf(*picture);
+            return IconOf({picture});
         }
     }
     return QProxyStyle::standardIcon(icon, option, widget);
@@ -43,13 +53,13 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
-QIcon IconOf(const Picture& picture) {
+QIcon IconOf(const std::vector<const Picture*>& drawings) {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 96, 128, 256}) {
         QPixmap pixmap(size, size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        picture.Draw(painter, pixmap.rect());
+        DrawingFor(size, drawings).Draw(painter, pixmap.rect());
         painter.end();
         icon.addPixmap(pixmap);
     }

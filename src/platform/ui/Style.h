@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QProxyStyle>
 
+#include <vector>
+
 class Picture;
 
 // For the layer itself: the look of standard controls. Qt's Fusion style, with message icons that are crisp at any
@@ -17,5 +19,6 @@ public:
                                 QStyleHintReturn* returnData) const override;
 };
 
-// The picture as an icon, in the sizes that desktops ask for.
-[[nodiscard]] QIcon IconOf(const Picture& picture);
+// An icon in the sizes that desktops ask for. The drawings, at least one and the smallest first, show the same thing
+// with more and more detail: a size takes the last one that is not larger than it, or else the first.
+[[nodiscard]] QIcon IconOf(const std::vector<const Picture*>& drawings);
