@@ -77,6 +77,14 @@ int MakeableDrinks(const Library& library) {
     return static_cast<int>(std::count_if(library.recipes.cbegin(), library.recipes.cend(), isMakeable));
 }
 
+QStringList StarterBar(const Library& library) {
+    QStringList names;
+    for (const int ingredient : library.starterBar) {
+        names.append(library.ingredients.at(ingredient).name);
+    }
+    return names;
+}
+
 QString Listed(const QStringList& lines) {
     QString text;
     for (const QString& line : lines) {
@@ -94,8 +102,9 @@ QString SeedReport(const Library& library) {
     text += QStringLiteral("By glass:\n") + CountsByName(library.glasses, library, &Recipe::glass);
     text += QStringLiteral("Ingredients never used:\n") + Listed(UnusedIngredients(library));
     text += QStringLiteral("Drinks with the same recipe:\n") + Listed(EqualDrinks(library));
-    text += QStringLiteral("The starter bar of %1 ingredients makes %2 drinks.\n")
+    text += QStringLiteral("The starter bar of %1 ingredients makes %2 drinks:\n")
                 .arg(library.starterBar.size())
                 .arg(MakeableDrinks(library));
+    text += Listed(StarterBar(library));
     return text;
 }
