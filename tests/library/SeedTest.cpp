@@ -1,5 +1,6 @@
 // The seed that the build made, looked at from outside in the ordinary sqlcipher shell, and the program that makes it.
-#include "library/LibraryText.h"
+#include "browser/GlassPicture.h"
+#include "browser/QuantityText.h"
 
 #include <QDir>
 #include <QProcess>
@@ -20,61 +21,65 @@ QStringList Rows(const QString& file, const char* statement) {
     return QString::fromUtf8(shell.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }
 
-TEST(Seed, HasNineTablesAndTheGlassesWithPictures) {
+double NumberShown(const QString& quantityText) {
+    double number = 0;
+    for (const QString& part : quantityText.split(u' ', Qt::SkipEmptyParts)) {
+        const QStringList sides = part.split(u'/');
+        number += sides.at(0).toDouble() / sides.value(1, "1").toDouble();
+    }
+    return number;
+}
+
+TEST(Seed, HasNineTablesAndADrinkWhereItsPartsBelong) {
     EXPECT_EQ(Rows(SEED_FILE, "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"),
               (QStringList{"DrinkListXRef", "DrinkLists", "DrinkRecipes", "DrinkTypes", "Drinks", "GlassTypes",
                            "Ingredients", "Setup", "UnitsOfMeasure"}));
-    EXPECT_EQ(Rows(SEED_FILE, "SELECT GlassTypeName FROM GlassTypes ORDER BY GlassTypeName"),
-              (QStringList{"Beer Mug", "Beer Pilsner", "Brandy Snifter", "Champagne Flute", "Cocktail", "Coffee Mug",
-                           "Collins", "Cordial", "HighBall", "Margarita", "Old-Fashioned", "Parfait", "Red Wine",
-                           "Shot", "Whiskey Sour", "White Wine"}));
-}
-
-TEST(Seed, HoldsEveryRecipeOfTheText) {
-    const Library library = ReadLibraryFolder(LIBRARY_FOLDER).library;
-    QStringList expected;
-    for (const Recipe& recipe : library.recipes) {
-        for (const RecipeRow& row : recipe.rows) {
-            const QStringList columns{recipe.name,
-                                      recipe.instructions,
-                                      library.types.at(recipe.type),
-                                      library.glasses.at(recipe.glass),
-                                      row.quantity,
-                                      library.units.value(row.unit),
-                                      library.ingredients.at(row.ingredient).name,
-                                      row.required ? "1" : "0"};
-            expected.append(columns.join(u'|'));
-        }
-    }
-    EXPECT_GE(library.recipes.size(), 140);
-    EXPECT_EQ(Rows(SEED_FILE, "SELECT D.DrinkName, D.DrinkInstruction, T.DrinkTypeName, G.GlassTypeName, "
-                              "R.IngredientQuantity, U.UofM, I.IngredientName, R.Required FROM DrinkRecipes AS R "
+    EXPECT_EQ(Rows(SEED_FILE, "SELECT T.DrinkTypeName, G.GlassTypeName, R.IngredientQuantity, U.UofM, "
+                              "I.IngredientName, R.Required FROM DrinkRecipes AS R "
                               "JOIN Drinks AS D USING (DrinkID) JOIN DrinkTypes AS T USING (DrinkTypeID) "
                               "JOIN GlassTypes AS G USING (GlassTypeID) JOIN Ingredients AS I USING (IngredientID) "
-                              "LEFT JOIN UnitsOfMeasure AS U USING (UofMID) ORDER BY R.DrinkID, R.RecipeStep"),
-              expected);
+                              "JOIN UnitsOfMeasure AS U USING (UofMID) WHERE D.DrinkName = 'Margarita' "
+                              "ORDER BY R.RecipeStep"),
+              (QStringList{"Sour|Margarita|1.66|oz|Tequila|1", "Sour|Margarita|0.66|oz|Triple Sec|1",
+                           "Sour|Margarita|0.5|oz|Lime Juice|1", "Sour|Margarita|0|rim|Salt|0"}));
+}
+
+TEST(Seed, ThePanelShowsEachQuantityAsMeantAndEachGlassAsAPicture) {
+    for (const QString& quantity :
+         Rows(SEED_FILE, "SELECT DISTINCT IngredientQuantity FROM DrinkRecipes WHERE IngredientQuantity != '0'")) {
+        const QString shown = QuantityText(quantity, {});
+        EXPECT_FALSE(shown.contains(u'.')) << quantity.toStdString();
+        // Two decimals stand for a third and for two thirds.
+        EXPECT_NEAR(NumberShown(shown), quantity.toDouble(), 0.01);
+    }
+    for (const QString& glass : Rows(SEED_FILE, "SELECT GlassTypeName FROM GlassTypes")) {
+        EXPECT_NE(GlassPicture(glass), nullptr) << glass.toStdString();
+    }
 }
 
 TEST(Seed, AgreesWithItselfAndBelongsToNobodyYet) {
     // Each finds what is wrong.
     const char* const searches[] = {
-        "SELECT DrinkID FROM DrinkRecipes WHERE DrinkID NOT IN (SELECT DrinkID FROM Drinks)",
+        "SELECT 'too few drinks' WHERE (SELECT COUNT(*) FROM Drinks) < 640",
+        "SELECT DrinkID FROM DrinkRecipes WHERE IFNULL(DrinkID, 0) NOT IN (SELECT DrinkID FROM Drinks) OR "
+        "IFNULL(IngredientID, 0) NOT IN (SELECT IngredientID FROM Ingredients) OR "
+        "UofMID NOT IN (SELECT UofMID FROM UnitsOfMeasure)",
+        "SELECT DrinkName FROM Drinks WHERE IFNULL(DrinkTypeID, 0) NOT IN (SELECT DrinkTypeID FROM DrinkTypes) OR "
+        "IFNULL(GlassTypeID, 0) NOT IN (SELECT GlassTypeID FROM GlassTypes)",
         "SELECT IngredientName FROM Ingredients WHERE IngredientParentID IS NOT NULL AND IngredientParentID NOT IN "
         "(SELECT IngredientID FROM Ingredients WHERE IngredientParentID IS NULL)",
         "SELECT DrinkName FROM Drinks GROUP BY DrinkName HAVING COUNT(*) > 1",
         "SELECT GlassTypeName FROM GlassTypes WHERE GlassTypeID NOT IN (SELECT GlassTypeID FROM Drinks)",
-        "SELECT DrinkName FROM Drinks AS D WHERE IngredientCount < 1 OR IngredientCount != (SELECT COUNT(*) FROM "
+        "SELECT DrinkName FROM Drinks AS D WHERE IngredientCount < 1 OR IngredientCount IS NOT (SELECT COUNT(*) FROM "
         "DrinkRecipes AS R WHERE R.DrinkID = D.DrinkID AND R.Required != 0)",
-        "SELECT DrinkName FROM Drinks AS D WHERE IngredientList != (SELECT group_concat(IngredientName, ', ') FROM "
+        "SELECT DrinkName FROM Drinks AS D WHERE IngredientList IS NOT (SELECT group_concat(IngredientName, ', ') FROM "
         "(SELECT IngredientName FROM DrinkRecipes AS R JOIN Ingredients USING (IngredientID) WHERE R.DrinkID = "
         "D.DrinkID ORDER BY R.RecipeStep))",
         // Names are compared without regard to case.
         "SELECT DrinkName FROM Drinks WHERE DrinkName != upper(DrinkName)",
         "SELECT IngredientName FROM Ingredients WHERE IngredientName != upper(IngredientName)",
-        // The recipe panel reads the digits behind the point as one of these fractions.
-        "SELECT IngredientQuantity FROM DrinkRecipes WHERE typeof(IngredientQuantity) != 'text' OR "
-        "(instr(IngredientQuantity, '.') > 0 AND substr(IngredientQuantity, instr(IngredientQuantity, '.') + 1) "
-        "NOT IN ('25', '5', '75', '33', '66', '1', '2'))",
+        // The recipe panel reads the digits as they were written, so a column of numbers would not do.
+        "SELECT IngredientQuantity FROM DrinkRecipes WHERE typeof(IngredientQuantity) != 'text'",
         "SELECT DrinkName FROM Drinks WHERE UserRating IS NOT NULL OR UserModified IS NOT NULL",
         "SELECT IngredientName FROM Ingredients WHERE InBar IS NOT 0 OR Empty IS NOT 0",
         "SELECT 'Setup' WHERE (SELECT COUNT(*) FROM Setup WHERE DBVersion = 2 AND AppWidth IS NULL) != 1",
