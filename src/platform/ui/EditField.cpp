@@ -200,7 +200,7 @@ private:
         QTextBlockFormat format;
         format.setAlignment(QtAlignment(look_.alignment));
         const int textHeight = edit_->font().pixelSize();
-        format.setLineHeight(textHeight + textHeight / 5.0, QTextBlockFormat::FixedHeight);
+        format.setLineHeight(textHeight * 1.15, QTextBlockFormat::FixedHeight);
         const QSignalBlocker quiet(edit_);
         QTextCursor all(edit_->document());
         all.select(QTextCursor::Document);

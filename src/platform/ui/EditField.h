@@ -25,7 +25,7 @@ struct EditFieldLook {
 // A field of text, of one line or of many. Text of a read-only field can be selected and copied.
 //
 // Positions in the text count from 0. Line ends in the text may be of any platform's kind; they read back as a single
-// line feed. Lines of a field of many lines stand at a fixed distance of 1.2 times the text size, so that fields
+// line feed. Lines of a field of many lines stand at a fixed distance of 1.15 times the text size, so that fields
 // beside each other keep their lines level whatever fonts the machine has.
 class EditField : public Control {
 public:
