@@ -6,7 +6,7 @@ const QString appName = QStringLiteral("Tipplewise Pourbook");
 
 } // namespace
 
-App::App() : Application(appName), DrinkAppName(appName) {
+App::App() : Application(appName, POURBOOK_VERSION), DrinkAppName(appName) {
     Open = [this] { Event_Open(); };
     Activate = [this] { Event_Activate(); };
 }

@@ -51,7 +51,7 @@ QPalette LightPalette() {
 
 } // namespace
 
-Application::Application(const QString& name) {
+Application::Application(const QString& name, const ApplicationVersion& version) : version_(version) {
     current = this;
     QApplication::setApplicationName(name);
     events::Reset();

@@ -11,11 +11,20 @@ class MenuBar;
 class MenuItem;
 class Picture;
 
+// The version that the build gave the program.
+struct ApplicationVersion {
+    int major = 0;
+    int minor = 0;
+    int bug = 0;
+    int stage = 3;      // 0 in development, 1 alpha, 2 beta, 3 final release
+    int nonRelease = 0; // which alpha or beta it is
+};
+
 // The one application object. A program derives its own from it; the object must outlive Runtime::Run.
 class Application {
 public:
     // The name stands in the title of message boxes that have no window below them.
-    explicit Application(const QString& name = {});
+    explicit Application(const QString& name = {}, const ApplicationVersion& version = {});
     virtual ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
@@ -29,6 +38,12 @@ public:
     // box that Open itself shows.
     std::function<void()> Activate;
 
+    [[nodiscard]] int MajorVersion() const { return version_.major; }
+    [[nodiscard]] int MinorVersion() const { return version_.minor; }
+    [[nodiscard]] int BugVersion() const { return version_.bug; }
+    [[nodiscard]] int StageCode() const { return version_.stage; }
+    [[nodiscard]] int NonReleaseVersion() const { return version_.nonRelease; }
+
     void SetMenuBar(MenuBar& menuBar);
     [[nodiscard]] MenuBar& ApplicationMenuBar() const;
 
@@ -41,6 +56,7 @@ public:
     void DoEvents();
 
 private:
+    ApplicationVersion version_;
     MenuBar* menuBar_ = nullptr;
     std::map<QString, std::function<bool()>> menuHandlers_;
 };
