@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QRadioButton>
 
 PushButton::PushButton() : Control(new QPushButton) {
     auto* button = static_cast<QPushButton*>(Widget());
@@ -18,6 +19,24 @@ void PushButton::SetCaption(const QString& caption) {
 
 void PushButton::SetTextSize(int pixels) {
     Widget()->setFont(fonts::WithSize(Widget()->font(), pixels));
+}
+
+void PushButton::SetDefault(bool isDefault) {
+    static_cast<QPushButton*>(Widget())->setDefault(isDefault);
+}
+
+RadioButton::RadioButton() : Control(new QRadioButton) {}
+
+void RadioButton::SetCaption(const QString& caption) {
+    static_cast<QRadioButton*>(Widget())->setText(caption);
+}
+
+bool RadioButton::Value() const {
+    return static_cast<QRadioButton*>(Widget())->isChecked();
+}
+
+void RadioButton::SetValue(bool value) {
+    static_cast<QRadioButton*>(Widget())->setChecked(value);
 }
 
 CheckBox::CheckBox() : Control(new QCheckBox) {

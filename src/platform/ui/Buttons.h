@@ -13,6 +13,19 @@ public:
 
     void SetCaption(const QString& caption);
     void SetTextSize(int pixels);
+    // The button that Return presses in its window, and that is drawn so. At most one of a window's buttons is it.
+    void SetDefault(bool isDefault);
+};
+
+// One choice of several: to set one takes the value from the others that stand on the same page or window. The tab key
+// reaches the group, the arrow keys choose in it.
+class RadioButton : public Control {
+public:
+    RadioButton();
+
+    void SetCaption(const QString& caption);
+    [[nodiscard]] bool Value() const;
+    void SetValue(bool value);
 };
 
 // A box that is ticked or not.

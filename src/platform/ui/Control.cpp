@@ -29,7 +29,7 @@ Control::~Control() {
 
 void Control::Place(Window& window, Control* parent, const ControlPlace& place) {
     QWidget* widget = Widget();
-    widget->setParent(parent == nullptr ? window.Content() : parent->Widget());
+    widget->setParent(parent == nullptr ? window.Content() : parent->Ground());
     widget->setObjectName(QString::fromLatin1(place.name));
     widget->setAccessibleName(QString::fromUtf8(place.description));
     state_->parent = parent;

@@ -60,6 +60,10 @@ protected:
 
     [[nodiscard]] QWidget* Widget() const;
 
+    // The widget that carries a control placed inside this one. It covers this one, so that both have the same
+    // coordinates.
+    [[nodiscard]] virtual QWidget* Ground() const { return Widget(); }
+
 private:
     friend class Window;
     struct State;

@@ -4,8 +4,11 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QStyleOption>
 
 namespace {
+
+constexpr QRgb defaultButtonColor = 0x9FB4DA;
 
 struct MessageIcon {
     QStyle::StandardPixmap icon = QStyle::SP_MessageBoxInformation;
@@ -51,6 +54,26 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         return 0;
     }
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButtonBevel && button != nullptr &&
+        button->features.testFlag(QStyleOptionButton::DefaultButton)) {
+        QStyleOptionButton tinted = *button;
+        tinted.palette.setColor(QPalette::Button, QColor(defaultButtonColor));
+        QProxyStyle::drawControl(element, &tinted, painter, widget);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_TabWidgetTabContents) {
+        return option->rect;
+    }
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QIcon IconOf(const std::vector<const Picture*>& drawings) {

@@ -8,7 +8,9 @@
 class Picture;
 
 // For the layer itself: the look of standard controls. Qt's Fusion style, with message icons that are crisp at any
-// screen scale and in the hand of the program's other pictures, and with buttons that carry no icons.
+// screen scale and in the hand of the program's other pictures, with buttons that carry no icons, with a default button
+// that is told from the others at a glance, and with pages behind tabs that cover the whole panel, so that a control on
+// a page has its place in the panel's coordinates.
 class Style : public QProxyStyle {
 public:
     Style();
@@ -17,6 +19,10 @@ public:
                                      const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* returnData) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    [[nodiscard]] QRect subElementRect(SubElement element, const QStyleOption* option,
+                                       const QWidget* widget) const override;
 };
 
 // An icon in the sizes that desktops ask for. The drawings, at least one and the smallest first, show the same thing

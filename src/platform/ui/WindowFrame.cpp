@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QWindow>
@@ -105,6 +106,19 @@ void WindowFrame::LayOut() {
 void WindowFrame::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     LayOut();
+}
+
+// What the focused control did not take comes here.
+void WindowFrame::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        for (QPushButton* button : findChildren<QPushButton*>()) {
+            if (button->isDefault() && button->isVisible()) {
+                button->click();
+                return;
+            }
+        }
+    }
+    QMainWindow::keyPressEvent(event);
 }
 
 // The window system keeps a window above the one that it is transient for.
