@@ -6,7 +6,8 @@ const QString appName = QStringLiteral("Tipplewise Pourbook");
 
 } // namespace
 
-App::App() : Application(appName, POURBOOK_VERSION), DrinkAppName(appName) {
+App::App(const QString& vendorSite)
+    : Application(appName, POURBOOK_VERSION), DrinkAppName(appName), VendorSite(vendorSite) {
     Open = [this] { Event_Open(); };
     Activate = [this] { Event_Activate(); };
 }

@@ -5,6 +5,9 @@
 
 #include <QString>
 
+class FolderItem;
+class InternetHeaders;
+
 // The application object: the values that outlive one operation, and every operation on the drink store.
 //
 // The class is one; each method is defined in the folder of its subsystem, in the file named for the job. A method
@@ -12,13 +15,18 @@
 // without a further word. No database connection outlives a method.
 class App : public Application {
 public:
-    App();
+    // The site is fixed at build time. Without one nothing is ever fetched.
+    explicit App(const QString& vendorSite = {});
 
     // The one application object.
     static App& Instance();
 
     // The product's name: title of the main window and name of the user's data folder.
     const QString DrinkAppName;
+
+    // The host of the vendor's web site, with its port if it needs one. The version file and the download page are
+    // there.
+    const QString VendorSite;
 
     // A developer's switch, fixed at build time: work on a plain "drinkdb.rsd" in the current folder.
     static constexpr bool InDevelopment = false;
@@ -79,6 +87,13 @@ public:
 
     // drinklists/
     [[nodiscard]] bool FillDrinkListsList();
+
+    // updates/
+    // Asks the vendor's web site for the latest version and shows a notice if it is newer than this one. The user works
+    // on meanwhile, and hears of no failure. The day is stored in any case.
+    void CheckForNewVersion();
+    // What a download in the background would report to. Nothing calls it.
+    void DownloadComplete(const QString& url, int httpStatus, const InternetHeaders& headers, const FolderItem& file);
 
 private:
     void Event_Open();

@@ -1,3 +1,4 @@
+#include "platform/base/Date.h"
 #include "platform/base/Text.h"
 #include "platform/files/FolderItem.h"
 #include "platform/ui/MenuBar.h"
@@ -36,6 +37,18 @@ void PlaceWindowForFirstRun(MainWindow& window) {
     window.SetHeight(600);
     window.SetTop(100);
     window.SetLeft(100);
+}
+
+// Long ago, so that a first run always looks for a new version.
+void SetToFirstRun(Date& lastCheck) {
+    lastCheck.SetYear(2000);
+    lastCheck.SetMonth(1);
+    lastCheck.SetDay(1);
+}
+
+// A little under six days.
+bool IsCheckDue(const Date& lastCheck, const Date& now) {
+    return 500000.0 < now.TotalSeconds() - lastCheck.TotalSeconds();
 }
 
 // A library of another version would be read wrongly, so it is left alone.
@@ -77,6 +90,8 @@ void PlaceSidePanel(MainWindow& window, bool onMac) {
 // The order of the steps matters: the options decide on the columns that the fills use, and the side panel is placed
 // for the size that the window has been given.
 void App::InitApp() {
+    Date lastCheck;
+    const Date now;
     if constexpr (!InDevelopment) {
         OnMac = Right(Uppercase(ExecutableFile().AbsolutePath()), 3) != QLatin1String("EXE");
         ProvisionDatabase();
@@ -95,9 +110,11 @@ void App::InitApp() {
     if (IsFirstRun(setup)) {
         UserOptions = OptionCode_ViewRatings + OptionCode_ShareRatings + OptionCode_CheckForAppUpdates;
         PlaceWindowForFirstRun(window);
+        SetToFirstRun(lastCheck);
     } else {
         RestoreWindow(window, setup);
         UserOptions = setup.Field("UserOptions").StringValue();
+        lastCheck.SetSQLDate(setup.Field("LastUpdateCheck").StringValue());
     }
     db.Close();
 
@@ -110,5 +127,10 @@ void App::InitApp() {
     window.SetTitle(DrinkAppName);
 
     // In this order; the first that fails has told the user and stops the rest.
-    static_cast<void>(FillInBarList() && FillDrinkListsList() && FillDrinkList());
+    if (!FillInBarList() || !FillDrinkListsList() || !FillDrinkList()) {
+        return;
+    }
+    if (Option_CheckForAppUpdates && IsCheckDue(lastCheck, now)) {
+        CheckForNewVersion();
+    }
 }

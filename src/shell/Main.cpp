@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     PreparePictures();
     runtime.SetIcon({NamedPicture(QStringLiteral("pourbook_16")), NamedPicture(QStringLiteral("pourbook_32")),
                      NamedPicture(QStringLiteral("pourbook"))});
-    App app;
+    App app(QString::fromUtf8(POURBOOK_VENDOR_SITE));
     MenuBar1 menuBar;
     app.SetMenuBar(menuBar);
     app._ApplicationAddMenuHandlers();

@@ -70,7 +70,7 @@ QString PourbookTest::WorkingFile() const {
 void PourbookTest::Start() {
     app_.reset();
     menuBar_.reset();
-    app_ = std::make_unique<App>();
+    app_ = std::make_unique<App>(vendorSite_);
     menuBar_ = std::make_unique<MenuBar1>();
     app_->SetMenuBar(*menuBar_);
     app_->_ApplicationAddMenuHandlers();

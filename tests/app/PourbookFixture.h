@@ -23,6 +23,8 @@ protected:
     // The user's file without any drink, ingredient or list.
     void GivenEmptyLibrary();
     void GivenDrink(int id, const QString& name, const QString& ingredientList = {}, const QString& more = {});
+    // Where the program looks for a newer version. Without it nothing is fetched.
+    void GivenVendorSite(const QString& site) { vendorSite_ = site; }
     void Execute(const QString& statement);
     [[nodiscard]] QString Value(const QString& select);
     [[nodiscard]] QString WorkingFile() const;
@@ -55,6 +57,7 @@ protected:
 
 private:
     QTemporaryDir home_;
+    QString vendorSite_;
     MessageWatcher messages_;
     std::unique_ptr<App> app_;
     std::unique_ptr<MenuBar1> menuBar_;

@@ -1,0 +1,69 @@
+#include "LoopbackServer.h"
+#include "PourbookFixture.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace {
+
+QString DaysAgo(int days) {
+    return QDate::currentDate().addDays(-days).toString("yyyy-M-d");
+}
+
+QWidget* OpenWindow(const char* name) {
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto found = std::find_if(all.begin(), all.end(), [name](const QWidget* widget) {
+        return widget->objectName() == name && widget->isVisible();
+    });
+    return found == all.end() ? nullptr : *found;
+}
+
+} // namespace
+
+class UpdateCheckTest : public PourbookTest {};
+
+TEST_F(UpdateCheckTest, ADueCheckShowsTheNoticeForANewerVersionAndStoresTheDay) {
+    const struct {
+        QString setup;
+        QByteArray page;
+        bool asks, tells;
+    } cases[] = {
+        {"AppWidth = NULL", "9.9.9\n", true, true},
+        {"AppWidth = 750, LastUpdateCheck = NULL", "1.0.0\n", true, false},
+        {"LastUpdateCheck = '" + DaysAgo(6) + "'", "0.9.9\n", true, false},
+        {"LastUpdateCheck = '2009-3-7'", "<b>999</b>", true, false},
+        {"LastUpdateCheck = '2009-3-7', UserOptions = 'V01'", "9.9.9\n", false, false},
+        {"LastUpdateCheck = '" + DaysAgo(4) + "', UserOptions = 'V04'", "9.9.9\n", false, false},
+    };
+    GivenUserFile();
+    Execute("UPDATE Setup SET UserOptions = 'V04'");
+    for (const auto& row : cases) {
+        Execute("UPDATE Setup SET " + row.setup);
+        const QString stored = Value("SELECT LastUpdateCheck FROM Setup");
+        const LoopbackServer server({"HTTP/1.0 200 OK\r\n\r\n" + row.page});
+        GivenVendorSite(server.Site());
+        Start();
+        EXPECT_EQ(server.Requests().size(), row.asks ? 1 : 0) << row.setup;
+        EXPECT_EQ(OpenWindow("UpdateAvailable") != nullptr, row.tells) << row.setup;
+        EXPECT_EQ(Value("SELECT LastUpdateCheck FROM Setup"), row.asks ? DaysAgo(0) : stored) << row.setup;
+    }
+}
+
+TEST_F(UpdateCheckTest, TheUserWorksWhileTheServerIsSilentAndQuitsWithoutWaiting) {
+    const LoopbackServer server({}, LoopbackServer::Then::HoldOpen);
+    GivenVendorSite(server.Site());
+    QTimer meanwhile;
+    meanwhile.callOnTimeout([&] {
+        if (!server.Requests().isEmpty() && Program().AppLoaded) {
+            meanwhile.stop();
+            Search("negroni");
+            EXPECT_EQ(ListedDrinks().split("|").first(), "Negroni");
+            CloseWindow();
+        }
+    });
+    meanwhile.start(10);
+    Start();
+    EXPECT_FALSE(meanwhile.isActive());
+    EXPECT_TRUE(Runtime::HasQuit());
+    EXPECT_EQ(Value("SELECT LastUpdateCheck FROM Setup"), "NULL") << "the check was not made";
+}

@@ -1,0 +1,50 @@
+"""A newer version on the vendor's web site: the notice, the way to the download page, and the day that is stored."""
+
+import datetime
+import http.server
+import os
+import threading
+
+import Desktop
+from Pourbook import TITLE, ExpectEqual, Home, Pourbook
+from Screen import PlaceOf
+from Waiting import WaitFor, WaitUntilEqual
+
+
+class VersionFile(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        self.send_response(200 if self.path == "/pourbook/pb1_latestversion.txt" else 404)
+        self.end_headers()
+        self.wfile.write(b"9.9.9\n")
+
+
+def PutBrowser(folder):
+    """Stands where the system's command for it is looked for, and writes the page down in the file that this gives."""
+    page, command = os.path.join(folder, "page"), os.path.join(folder, "xdg-open")
+    with open(command, "w") as file:
+        file.write(f'#!/bin/sh\nprintf %s "$1" > {page}\n')
+    os.chmod(command, 0o755)
+    os.environ["PATH"] = folder + ":" + os.environ["PATH"]
+    return page
+
+
+with Desktop.Desktop() as desktop:
+    page = PutBrowser(desktop.folder.name)
+    server = http.server.HTTPServer(("127.0.0.1", 0), VersionFile)
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    site = f"127.0.0.1:{server.server_port}"
+
+    home = Home(desktop)
+    pourbook = Pourbook(desktop, home, os.environ["POURBOOK_AT"], site)
+    notice = WaitFor(lambda: PlaceOf(pourbook.screen.Find("Pourbook Update Available")), "the notice")
+    left, top, width, _ = pourbook.Place()
+    ExpectEqual(notice, (left + (width - 300) // 2, top + 100, 300, 350), "place of the notice")
+    today = datetime.date.today()
+    WaitUntilEqual(lambda: home.library.Run("SELECT LastUpdateCheck FROM Setup"),
+                   [f"{today.year}-{today.month}-{today.day}"], "day of the check")
+
+    pourbook.WaitForKeyboard()
+    Desktop.Key("Return")
+    WaitUntilEqual(lambda: open(page).read(), f"http://{site}/download.html", "page in the browser")
+    WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), TITLE, "window in front")
+    pourbook.Close()
