@@ -94,6 +94,7 @@ public:
     void CheckForNewVersion();
     // What a download in the background would report to. Nothing calls it.
     void DownloadComplete(const QString& url, int httpStatus, const InternetHeaders& headers, const FolderItem& file);
+    bool _Edit_Preferences_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
 
 private:
     void Event_Open();

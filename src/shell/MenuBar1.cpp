@@ -60,6 +60,7 @@ void App::_ApplicationAddMenuHandlers() {
     bind("File_Print", &App::_File_Print_Action);
     bind("Window_Minimize", &App::_Window_Minimize_Action);
     bind("Window_Zoom", &App::_Window_Zoom_Action);
+    bind("Edit_Preferences", &App::_Edit_Preferences_Action);
 }
 
 // The command stands in the menu and does nothing when chosen, by decision; the fields of the recipe panel can be

@@ -1,7 +1,12 @@
 #include "LoopbackServer.h"
 #include "PourbookFixture.h"
+#include "updates/Preferences.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -66,4 +71,25 @@ TEST_F(UpdateCheckTest, TheUserWorksWhileTheServerIsSilentAndQuitsWithoutWaiting
     EXPECT_FALSE(meanwhile.isActive());
     EXPECT_TRUE(Runtime::HasQuit());
     EXPECT_EQ(Value("SELECT LastUpdateCheck FROM Setup"), "NULL") << "the check was not made";
+}
+
+TEST_F(UpdateCheckTest, PreferencesChangeTheOptionsWhenTheyClose) {
+    Start();
+    for (const bool before : {true, false}) {
+        Choose("Edit_Preferences");
+        QWidget* window = OpenWindow("Preferences");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        EXPECT_EQ(window->findChild<QCheckBox*>()->isChecked(), before);
+        window->findChild<QCheckBox*>()->click();
+        // The keyboard alone reaches the other page.
+        window->findChild<QTabBar*>()->setFocus();
+        QTest::keyClick(window->windowHandle(), Qt::Key_Right);
+        auto* other = window->findChild<QRadioButton*>(before ? "ShareDrinks_No" : "ShareDrinks_Yes");
+        EXPECT_FALSE(other->isChecked());
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, other->mapTo(window, QPoint(8, 10)));
+        EXPECT_EQ(Program().Option_CheckForAppUpdates, before);
+        window->close();
+        EXPECT_EQ(Program().Option_CheckForAppUpdates, !before);
+        EXPECT_EQ(Program().Option_ShareRatings, !before);
+    }
 }
