@@ -131,8 +131,8 @@ void Runtime::Start(Application& application) {
     QTimer::singleShot(0, qApp, [&application] {
         QTimer::singleShot(0, qApp, [&application] { events::Raise(application.Activate); });
         events::Raise(application.Open);
-        // A fault in Open that left no window leaves nothing that the user could end.
-        if (OpenWindows::Any() == nullptr && !events::QuitPending()) {
+        // A fault in Open that left no document window leaves nothing that the user could end.
+        if (OpenWindows::Document() == nullptr && !events::QuitPending()) {
             events::BeginQuit(0);
         }
     });

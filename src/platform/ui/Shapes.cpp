@@ -5,7 +5,7 @@
 
 class Shape::Surface : public QWidget {
 public:
-    Surface() { setFocusPolicy(Qt::NoFocus); }
+    explicit Surface(Outline outline) : outline_(outline) { setFocusPolicy(Qt::NoFocus); }
 
     void SetLook(const ShapeLook& look) {
         look_ = look;
@@ -21,21 +21,26 @@ protected:
         } else {
             painter.setPen(Qt::NoPen);
         }
-        if (look_.arc == 0) {
+        if (outline_ == Outline::Box && look_.arc == 0) {
             painter.drawRect(rect());
             return;
         }
         painter.setRenderHint(QPainter::Antialiasing);
         const double inset = look_.borderWidth / 2.0;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), look_.arc / 2.0,
-                                look_.arc / 2.0);
+        const QRectF inner = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+        if (outline_ == Outline::Ellipse) {
+            painter.drawEllipse(inner);
+        } else {
+            painter.drawRoundedRect(inner, look_.arc / 2.0, look_.arc / 2.0);
+        }
     }
 
 private:
+    Outline outline_;
     ShapeLook look_;
 };
 
-Shape::Shape() : Control(new Surface), surface_(static_cast<Surface*>(Widget())) {}
+Shape::Shape(Outline outline) : Control(new Surface(outline)), surface_(static_cast<Surface*>(Widget())) {}
 
 void Shape::SetLook(const ShapeLook& look) {
     surface_->SetLook(look);

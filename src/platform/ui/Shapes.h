@@ -17,7 +17,8 @@ public:
     void SetLook(const ShapeLook& look);
 
 protected:
-    Shape();
+    enum class Outline { Box, Ellipse };
+    explicit Shape(Outline outline = Outline::Box);
 
 private:
     class Surface;
@@ -27,6 +28,11 @@ private:
 class Rectangle : public Shape {};
 
 class RoundRectangle : public Shape {};
+
+class Oval : public Shape {
+public:
+    Oval() : Shape(Outline::Ellipse) {}
+};
 
 // A thin line between two areas.
 class Separator : public Shape {

@@ -9,11 +9,32 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include <algorithm>
+
 class StaticText::Label : public QLabel {
 public:
     explicit Label(StaticText& owner) : owner_(owner) { setTextFormat(Qt::PlainText); }
 
+    // Letters move closer together where that makes the whole text fit, because a place may have been measured for
+    // another font. Of a text that is too long all the same, the lines that fit are shown whole.
+    void FitPlace() {
+        for (int stretch = QFont::Unstretched; stretch >= narrowest; stretch -= 3) {
+            if (SetStretch(stretch); Fits()) {
+                break;
+            }
+        }
+        if (wordWrap() && !Fits()) {
+            SetStretch(QFont::Unstretched);
+        }
+        setContentsMargins(0, 0, 0, wordWrap() ? height() % fontMetrics().lineSpacing() : 0);
+    }
+
 protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QLabel::resizeEvent(event);
+        FitPlace();
+    }
+
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {
             Press(event->position().toPoint());
@@ -44,6 +65,19 @@ protected:
     }
 
 private:
+    static constexpr int narrowest = 76; // percent
+
+    void SetStretch(int percent) {
+        QFont stretched = font();
+        stretched.setStretch(percent);
+        setFont(stretched);
+    }
+
+    [[nodiscard]] bool Fits() const {
+        return wordWrap() ? fontMetrics().boundingRect(0, 0, width(), 0, Qt::TextWordWrap, text()).height() <= height()
+                          : fontMetrics().horizontalAdvance(text()) <= width();
+    }
+
     void Press(const QPoint& place) { events::Raise(owner_.MouseDown, place.x(), place.y()); }
 
     StaticText& owner_;
@@ -61,6 +95,7 @@ void StaticText::SetLook(const StaticTextLook& look) {
     label_->setPalette(palette);
     label_->setWordWrap(look.multiLine);
     label_->setAlignment(QtAlignment(look.alignment) | (look.multiLine ? Qt::AlignTop : Qt::AlignVCenter));
+    label_->FitPlace();
 }
 
 QString StaticText::Text() const {
@@ -68,7 +103,10 @@ QString StaticText::Text() const {
 }
 
 void StaticText::SetText(const QString& text) {
-    label_->setText(text);
+    QString lines = text;
+    label_->setText(
+        lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n')));
+    label_->FitPlace();
 }
 
 void StaticText::SetMouseCursor(MouseCursor cursor) {

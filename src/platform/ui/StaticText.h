@@ -23,7 +23,8 @@ struct StaticTextLook {
         false; // breaks lines at blanks; the text then starts at the top, otherwise it stands in the middle
 };
 
-// A text that the user reads. Text is plain: nothing in it is markup.
+// A text that the user reads. Text is plain: nothing in it is markup. Line ends may be of any platform's kind; they
+// read back as a single line feed. What does not fit below is not shown, and no line is cut in two.
 //
 // A text with the finger pointer as its cursor acts as a link: it takes the keyboard focus, and Return and the space
 // bar stand for a click on it.

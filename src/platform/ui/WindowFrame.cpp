@@ -131,6 +131,11 @@ void WindowFrame::showEvent(QShowEvent* event) {
 }
 
 void WindowFrame::closeEvent(QCloseEvent* event) {
+    // A dialog has no close box, but the desktop has keys for closing any window.
+    if (properties_.kind == WindowKind::Dialog && event->spontaneous()) {
+        event->ignore();
+        return;
+    }
     // An edit in a cell ends before the window does, so that its text reaches the handler.
     if (QWidget* focused = focusWidget(); focused != nullptr) {
         focused->clearFocus();

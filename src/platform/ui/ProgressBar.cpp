@@ -1,0 +1,24 @@
+#include "platform/ui/ProgressBar.h"
+
+#include "platform/ui/Events.h"
+
+#include <QCoreApplication>
+#include <QProgressBar>
+
+ProgressBar::ProgressBar() : Control(new QProgressBar) {
+    static_cast<QProgressBar*>(Widget())->setTextVisible(false);
+}
+
+void ProgressBar::SetMaximum(int maximum) {
+    static_cast<QProgressBar*>(Widget())->setMaximum(maximum);
+}
+
+int ProgressBar::Value() const {
+    return static_cast<QProgressBar*>(Widget())->value();
+}
+
+void ProgressBar::SetValue(int value) {
+    static_cast<QProgressBar*>(Widget())->setValue(value);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    events::UnwindIfQuitting();
+}
