@@ -84,6 +84,8 @@ public:
 
     // bar/
     [[nodiscard]] bool FillInBarList();
+    void ShowIngredientRecommendations();
+    bool _Ingredients_Recommend_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
 
     // drinklists/
     [[nodiscard]] bool FillDrinkListsList();
@@ -95,6 +97,12 @@ public:
     // What a download in the background would report to. Nothing calls it.
     void DownloadComplete(const QString& url, int httpStatus, const InternetHeaders& headers, const FolderItem& file);
     bool _Edit_Preferences_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
+
+    // help/
+    // NOLINTBEGIN(bugprone-reserved-identifier): handlers of menu items
+    bool _Help_Pourbook_Action();
+    bool _Help_About_Action();
+    // NOLINTEND(bugprone-reserved-identifier)
 
 private:
     void Event_Open();

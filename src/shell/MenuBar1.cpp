@@ -60,7 +60,10 @@ void App::_ApplicationAddMenuHandlers() {
     bind("File_Print", &App::_File_Print_Action);
     bind("Window_Minimize", &App::_Window_Minimize_Action);
     bind("Window_Zoom", &App::_Window_Zoom_Action);
+    bind("Help_Pourbook", &App::_Help_Pourbook_Action);
     bind("Edit_Preferences", &App::_Edit_Preferences_Action);
+    bind("Help_About", &App::_Help_About_Action);
+    bind("Ingredients_Recommend", &App::_Ingredients_Recommend_Action);
 }
 
 // The command stands in the menu and does nothing when chosen, by decision; the fields of the recipe panel can be
