@@ -60,6 +60,9 @@ public:
     [[nodiscard]] QString EncodeOptions() const;
     // Sets the flags, and the captions of the View menu, from UserOptions.
     void DecodeOptions();
+    // Moves what is the user's own from a file of another version to a fresh copy of the seed database. Ends the
+    // program on every failure.
+    void UpgradeDBtoVersion2();
 
     // shell/
     void InitApp();

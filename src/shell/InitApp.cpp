@@ -51,18 +51,6 @@ bool IsCheckDue(const Date& lastCheck, const Date& now) {
     return 500000.0 < now.TotalSeconds() - lastCheck.TotalSeconds();
 }
 
-// A library of another version would be read wrongly, so it is left alone.
-void RefuseOtherVersion(const App& app, REALSQLDatabase& db, const RecordSet& setup) {
-    if (setup.Field("DBVersion").IntegerValue() == currentDBVersion) {
-        return;
-    }
-    MsgBox(QStringLiteral("Your drink library was made by another version of %1, and this version cannot open it.  "
-                          "Nothing in it was changed.")
-               .arg(app.DrinkAppName));
-    db.Close();
-    Quit(0);
-}
-
 void Move(Control& control, const Rect& place) {
     control.SetLeft(place.left);
     control.SetTop(place.top);
@@ -101,9 +89,15 @@ void App::InitApp() {
     if (!GetDatabase(db)) {
         Quit(0);
     }
-    const RecordSet setup = SelectSetup(db);
-    if constexpr (!InDevelopment) {
-        RefuseOtherVersion(*this, db, setup);
+    RecordSet setup = SelectSetup(db);
+    if (!InDevelopment && setup.Field("DBVersion").IntegerValue() != currentDBVersion) {
+        setup.Close();
+        db.Close();
+        UpgradeDBtoVersion2();
+        if (!GetDatabase(db)) {
+            Quit(0);
+        }
+        setup = SelectSetup(db);
     }
 
     MainWindow& window = MainWindow::Instance();

@@ -7,12 +7,11 @@ import resource
 import shutil
 
 import Desktop
-from Pourbook import PROGRAM, SEED, TITLE, ExpectEqual, Home, Pourbook
+from Pourbook import PROGRAM, SEED, ExpectEqual, Home, Pourbook
 from Waiting import WaitFor
 
 CANNOT_OPEN = r"Could not open database\.  "
 CANNOT_SET_UP = "An error occurred attempting to create a user specific database in the folder  '{userFolder}'"
-OTHER_VERSION = f"Your drink library was made by another version of {TITLE}, and this version cannot open it\\."
 
 
 def Change(statement):
@@ -54,8 +53,6 @@ CASES = [
     ("no rights", ForbidWriting, CANNOT_SET_UP),
     ("full disk", lambda home, install: None, CANNOT_SET_UP),
     ("no seed", TakeAwaySeed, CANNOT_SET_UP),
-    ("older library", Change("UPDATE Setup SET DBVersion = 1"), OTHER_VERSION),
-    ("newer library", Change("UPDATE Setup SET DBVersion = 3"), OTHER_VERSION),
 ]
 
 
