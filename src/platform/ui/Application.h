@@ -23,7 +23,7 @@ struct ApplicationVersion {
 // The one application object. A program derives its own from it; the object must outlive Runtime::Run.
 class Application {
 public:
-    // The name stands in the title of message boxes that have no window below them.
+    // The name stands in the title of message boxes that are given none.
     explicit Application(const QString& name = {}, const ApplicationVersion& version = {});
     virtual ~Application();
     Application(const Application&) = delete;

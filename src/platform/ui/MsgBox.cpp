@@ -48,18 +48,11 @@ void MsgBox(const QString& text) {
 int MsgBox(const QString& text, int code, const QString& title) {
     events::UnwindIfQuitting();
     const Form& form = FormOf(code);
-    // Without a title of its own the box is named for the window that it lies over.
-    QWidget* const below = QApplication::activeWindow();
-    QString caption = title;
-    if (caption.isEmpty()) {
-        caption = below == nullptr ? QApplication::applicationName() : below->windowTitle();
-    }
-
-    QMessageBox box(below);
+    QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setIcon(form.icon);
-    box.setWindowTitle(caption);
+    box.setWindowTitle(title.isEmpty() ? QApplication::applicationName() : title);
     box.setText(text);
     box.setStandardButtons(form.buttons);
     box.setDefaultButton(form.preferred);
