@@ -6,3 +6,4 @@ void RegisterFills();
 void RegisterKeystrokes();
 void RegisterLike();
 void RegisterRecipe();
+void RegisterSave();

@@ -34,6 +34,7 @@ int Measure(App& app) {
     RegisterConnect();
     RegisterKeystrokes();
     RegisterRecipe();
+    RegisterSave();
     RegisterLike();
     RegisterFills();
     RatioReporter reporter;

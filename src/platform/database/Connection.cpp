@@ -60,16 +60,16 @@ void Connection::Closer::operator()(sqlite3* engine) const {
 
 Connection::Connection(const QString& path) {
     sqlite3* engine = nullptr;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &engine, SQLITE_OPEN_READWRITE, nullptr);
+    // All database work is done on the one thread of the program, so the engine need not guard against others.
+    const int code =
+        sqlite3_open_v2(path.toUtf8().constData(), &engine, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     engine_.reset(engine);
     if (code != SQLITE_OK) {
         throw EngineFailure(code);
     }
-    // The rollback journal is kept as the engine has it by default, with full synchronising. A write-ahead log would
-    // make many single updates far cheaper, but a connect dearer; it needs a writable folder even to read, and leaves
-    // two files behind a kill without which the database file alone is not whole.
     sqlite3_busy_timeout(engine, BusyMilliseconds);
     InstallLike(engine);
+    journal_ = std::make_unique<BurstJournal>(engine, BusyMilliseconds);
 }
 
 std::unique_ptr<Connection> Connection::ToFile(const QString& path, const QString& key) {
@@ -112,7 +112,8 @@ RecordSet Connection::Select(const QString& statement) {
 }
 
 void Connection::Execute(const QString& statement) {
-    Statement(engine_.get(), statement.toUtf8()).Run();
+    Statement running(engine_.get(), statement.toUtf8());
+    Write(running);
 }
 
 void Connection::Insert(const QString& table, const DatabaseRecord& record) {
@@ -123,6 +124,13 @@ void Connection::Insert(const QString& table, const DatabaseRecord& record) {
     Statement statement(engine_.get(), InsertText(table, record));
     for (std::size_t place = 0; place < values.size(); ++place) {
         statement.Bind(int(place) + 1, values[place]);
+    }
+    Write(statement);
+}
+
+void Connection::Write(Statement& statement) {
+    if (statement.Writes()) {
+        journal_->BeforeWriting();
     }
     statement.Run();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/BurstJournal.h"
 #include "platform/database/DatabaseRecord.h"
 #include "platform/database/RecordSet.h"
 
@@ -7,6 +8,7 @@
 
 #include <memory>
 
+class Statement;
 struct sqlite3;
 
 // An open database file. Every failure is an EngineFailure.
@@ -31,6 +33,8 @@ private:
 
     explicit Connection(const QString& path);
     void SetKey(const QByteArray& key);
+    void Write(Statement& statement);
 
     std::unique_ptr<sqlite3, Closer> engine_;
+    std::unique_ptr<BurstJournal> journal_;
 };

@@ -17,6 +17,9 @@ class Connection;
 // `Close`. Connections may overlap, to the same file too: no lock is held between two calls. When another
 // program holds the file, a call waits about one second and then fails with the engine's words.
 //
+// From the second writing statement on, a connection keeps a log beside the file, encrypted too (see BurstJournal.h).
+// `Close` brings it into the file. After a kill the next connection reads it, so the two must not be parted.
+//
 // File format: SQLCipher 3 (page size 1024; AES-256 in CBC mode; HMAC-SHA1 on each page; key by PBKDF2-HMAC-SHA1
 // with 64,000 rounds over the salt in the first 16 bytes). Any SQLCipher tool opens the file with the key; version 4
 // needs "PRAGMA cipher_compatibility = 3" after it.

@@ -65,6 +65,10 @@ void Statement::Bind(int parameter, const QByteArray& text) {
     }
 }
 
+bool Statement::Writes() const {
+    return sqlite3_stmt_readonly(statement_.get()) == 0;
+}
+
 void Statement::Run() {
     while (Step()) {
     }

@@ -18,6 +18,9 @@ public:
     // Gives the parameter with this number, from 1 on, a text. The text must live as long as the statement.
     void Bind(int parameter, const QByteArray& text);
 
+    // Whether running it may change the file.
+    [[nodiscard]] bool Writes() const;
+
     // Runs the statement to its end and drops its rows, if any.
     void Run();
 
