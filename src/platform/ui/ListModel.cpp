@@ -8,9 +8,21 @@
 ListModel::ListModel() = default;
 
 void ListModel::Append(const QString& text) {
-    Row& row = rows_.emplace_back();
-    row.cells.resize(static_cast<std::size_t>(columnCount_));
-    row.cells[0] = text;
+    rows_.push_back(MakeRow(text));
+}
+
+// Among rows that the view does not know yet there is nothing to tell, so that a list that is filled in any order costs
+// one notification too.
+void ListModel::Insert(int row, const QString& text) {
+    const bool known = row < announced_;
+    if (known) {
+        beginInsertRows({}, row, row);
+        ++announced_;
+    }
+    rows_.insert(rows_.begin() + row, MakeRow(text));
+    if (known) {
+        endInsertRows();
+    }
 }
 
 void ListModel::Remove(int row) {
@@ -56,6 +68,23 @@ void ListModel::SetText(int row, int column, const QString& text) {
     }
 }
 
+bool ListModel::Check(int row, int column) const {
+    const std::vector<bool>& checks = rows_[static_cast<std::size_t>(row)].checks;
+    const auto place = static_cast<std::size_t>(column);
+    return place < checks.size() && checks[place];
+}
+
+void ListModel::SetCheck(int row, int column, bool checked) {
+    if (checked == Check(row, column)) {
+        return;
+    }
+    std::vector<bool>& checks = rows_[static_cast<std::size_t>(row)].checks;
+    const auto place = static_cast<std::size_t>(column);
+    checks.resize(std::max(checks.size(), place + 1));
+    checks[place] = checked;
+    CellChanged(row, column);
+}
+
 void ListModel::SetRowPicture(int row, const Picture* picture) {
     Row& changed = rows_[static_cast<std::size_t>(row)];
     if (changed.picture != picture) {
@@ -90,6 +119,15 @@ void ListModel::SetHeading(int column, const QString& text) {
         changed.heading = text;
         Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
     }
+}
+
+ColumnType ListModel::Type(int column) const {
+    const auto place = static_cast<std::size_t>(column);
+    return place < columns_.size() ? columns_[place].type : ColumnType::Default;
+}
+
+void ListModel::SetType(int column, ColumnType type) {
+    ColumnAt(column).type = type;
 }
 
 TextAlignment ListModel::Alignment(int column) const {
@@ -137,6 +175,11 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= RowCount()) {
         return {};
     }
+    if (role == Qt::CheckStateRole) {
+        return Type(index.column()) == ColumnType::CheckBox
+                   ? QVariant(Check(index.row(), index.column()) ? Qt::Checked : Qt::Unchecked)
+                   : QVariant();
+    }
     const QString text = Text(index.row(), index.column());
     if (role == Qt::AccessibleTextRole && index.column() == 0) {
         const Picture* picture = RowPicture(index.row());
@@ -166,7 +209,16 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
     if (!index.isValid()) {
         return Qt::NoItemFlags;
     }
-    return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    const Qt::ItemFlags all =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    return Type(index.column()) == ColumnType::CheckBox ? all | Qt::ItemIsUserCheckable : all;
+}
+
+ListModel::Row ListModel::MakeRow(const QString& text) const {
+    Row row;
+    row.cells.resize(static_cast<std::size_t>(columnCount_));
+    row.cells[0] = text;
+    return row;
 }
 
 void ListModel::CellChanged(int row, int column) {

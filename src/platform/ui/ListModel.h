@@ -18,6 +18,8 @@ public:
     [[nodiscard]] int ColumnCount() const { return columnCount_; }
 
     void Append(const QString& text);
+    // Before this row, or at the end. Told to the view at once if the view knows the row before it.
+    void Insert(int row, const QString& text);
     void Remove(int row);
     void Clear();
     // Tells the view of the rows that were appended since.
@@ -28,12 +30,16 @@ public:
     void SetText(int row, int column, const QString& text);
     [[nodiscard]] int Tag(int row) const { return rows_[static_cast<std::size_t>(row)].tag; }
     void SetTag(int row, int tag) { rows_[static_cast<std::size_t>(row)].tag = tag; }
+    [[nodiscard]] bool Check(int row, int column) const;
+    void SetCheck(int row, int column, bool checked);
     [[nodiscard]] const Picture* RowPicture(int row) const { return rows_[static_cast<std::size_t>(row)].picture; }
     void SetRowPicture(int row, const Picture* picture);
 
     void SetColumnCount(int count);
     [[nodiscard]] QString Heading(int column) const;
     void SetHeading(int column, const QString& text);
+    [[nodiscard]] ColumnType Type(int column) const;
+    void SetType(int column, ColumnType type);
     [[nodiscard]] TextAlignment Alignment(int column) const;
     void SetAlignment(int column, TextAlignment alignment);
 
@@ -50,14 +56,18 @@ public:
 private:
     struct Row {
         std::vector<QString> cells;
+        // Of the columns up to the last one that was ever ticked.
+        std::vector<bool> checks;
         int tag = 0;
         const Picture* picture = nullptr;
     };
     struct Column {
         QString heading;
+        ColumnType type = ColumnType::Default;
         TextAlignment alignment = TextAlignment::Left;
     };
 
+    [[nodiscard]] Row MakeRow(const QString& text) const;
     void CellChanged(int row, int column);
     Column& ColumnAt(int column);
 

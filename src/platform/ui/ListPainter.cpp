@@ -6,6 +6,7 @@
 #include "platform/ui/Picture.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -27,6 +28,12 @@ private:
     QPainter& painter_;
 };
 
+QSize BoxSize(const QStyleOptionViewItem& option) {
+    const QStyle& style = *option.widget->style();
+    return {style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+            style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget)};
+}
+
 } // namespace
 
 ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
@@ -44,6 +51,9 @@ void ListPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     }
     if (index.column() == 0) {
         PaintPicture(*painter, option.rect, row);
+    }
+    if (model_.Type(index.column()) == ColumnType::CheckBox) {
+        PaintCheckBox(*painter, option, row, index.column());
     }
     PaintText(*painter, option, row, index.column());
 }
@@ -76,6 +86,18 @@ void ListPainter::PaintPicture(QPainter& painter, const QRect& cell, int row) co
     picture->Draw(painter, QRect(QPoint(left, top), size));
 }
 
+// It stands where a picture would.
+void ListPainter::PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, int row, int column) const {
+    QStyleOptionViewItem look = option;
+    const bool alone = model_.Text(row, column).isEmpty();
+    look.rect = QStyle::alignedRect(Qt::LeftToRight, (alone ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter,
+                                    BoxSize(option), option.rect);
+    look.state.setFlag(QStyle::State_HasFocus, false);
+    look.state.setFlag(QStyle::State_Selected, false);
+    look.state |= model_.Check(row, column) ? QStyle::State_On : QStyle::State_Off;
+    option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &look, &painter, option.widget);
+}
+
 void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& option, int row, int column) const {
     const QString text = model_.Text(row, column);
     if (text.isEmpty()) {
@@ -89,6 +111,9 @@ void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& optio
     int left = textMargin;
     if (const Picture* picture = column == 0 ? model_.RowPicture(row) : nullptr; picture != nullptr) {
         left += picture->Size().width();
+    }
+    if (model_.Type(column) == ColumnType::CheckBox) {
+        left += BoxSize(option).width();
     }
     Graphics graphics(painter, cell.width(), cell.height());
     if (list_.CellTextPaint && events::Raise(list_.CellTextPaint, graphics, row, column, left,

@@ -19,6 +19,7 @@ private:
     // Draws the plain ground and what the event adds to it. True when the event wants no mark of the selection.
     bool PaintGround(QPainter& painter, const QRect& cell, int row, int column) const;
     void PaintPicture(QPainter& painter, const QRect& cell, int row) const;
+    void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, int row, int column) const;
     void PaintText(QPainter& painter, const QStyleOptionViewItem& option, int row, int column) const;
 
     Listbox& list_;

@@ -152,6 +152,9 @@ void ListView::ForgetSorting() {
 void ListView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     PaintEmptyRows();
+    if (MarksCurrentRow()) {
+        PaintRowMark();
+    }
     if (focusRing_ && hasFocus()) {
         PaintFocusRing();
     }
@@ -197,6 +200,8 @@ bool ListView::TakePress(QMouseEvent* event) {
         return false;
     }
     pressPlace_ = place;
+    pressedCheck_ = QModelIndex();
+    SetKeyboardUsed(false);
     if (events::Raise(list_.MouseDown, inList.x(), inList.y())) {
         return true;
     }
@@ -205,7 +210,11 @@ bool ListView::TakePress(QMouseEvent* event) {
         return false;
     }
     const QRect rect = visualRect(cell);
-    return events::Raise(list_.CellClick, cell.row(), cell.column(), place.x() - rect.left(), place.y() - rect.top());
+    if (events::Raise(list_.CellClick, cell.row(), cell.column(), place.x() - rect.left(), place.y() - rect.top())) {
+        return true;
+    }
+    pressedCheck_ = CheckCellAt(place);
+    return false;
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {
@@ -234,12 +243,17 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     if (!key.isEmpty() && events::Raise(list_.KeyDown, key)) {
         return;
     }
+    SetKeyboardUsed(true);
+    if (TakeActionKey(*event)) {
+        return;
+    }
     // Qt would copy the text of the current cell, which is no command of a list here.
     if (event->matches(QKeySequence::Copy)) {
         event->ignore();
         return;
     }
-    if (SelectedCount() == 0 && model_.rowCount() > 0 && (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)) {
+    if (SelectedCount() == 0 && !MarksCurrentRow() && model_.rowCount() > 0 &&
+        (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)) {
         // Coming by the keyboard, Qt stands on the first row without selecting it, and would go on to the second.
         SelectOnly(std::max(0, currentIndex().row()));
         scrollTo(currentIndex());
@@ -277,6 +291,9 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 
 void ListView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        SetKeyboardUsed(true);
+    }
     viewport()->update();
     events::Raise(list_.GotFocus);
 }

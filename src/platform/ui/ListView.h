@@ -34,6 +34,7 @@ public:
 
     void SetHeadingsSort(bool sort);
     void SetFocusRing(bool ring) { focusRing_ = ring; }
+    void SetRowsArePressed(bool pressed) { rowsArePressed_ = pressed; }
     // The rows are in the logic's own order again.
     void ForgetSorting();
 
@@ -42,6 +43,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
@@ -56,6 +58,16 @@ protected:
 private:
     // Raises MouseDown and CellClick; true when the press ends there.
     bool TakePress(QMouseEvent* event);
+    // Ticks a check box or presses the current row; true when the key did one of the two.
+    bool TakeActionKey(const QKeyEvent& event);
+    void PressRow(int row);
+    void ToggleCheck(int row, int column);
+    // The cell with a check box at this place of the viewport, or none.
+    [[nodiscard]] QModelIndex CheckCellAt(const QPoint& place) const;
+    void SetKeyboardUsed(bool used);
+    // Whether the current row has the mark of a row that keys can press.
+    [[nodiscard]] bool MarksCurrentRow() const;
+    void PaintRowMark();
     void PaintEmptyRows();
     void PaintFocusRing();
     void SortBy(int column);
@@ -67,6 +79,11 @@ private:
     CellEditor editor_;
     QString columnWidths_;
     bool focusRing_ = false;
+    bool rowsArePressed_ = false;
+    // Whether the list was last worked with by the keyboard: after a click nobody needs to see where the keys would go.
+    bool keyboardUsed_ = false;
+    // The cell with a check box that the mouse was pressed on.
+    QPersistentModelIndex pressedCheck_;
     bool pressTaken_ = false;
     // In the viewport; where a drag was begun.
     QPoint pressPlace_;

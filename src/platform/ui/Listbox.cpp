@@ -43,6 +43,7 @@ void Listbox::SetLook(const ListboxLook& look) {
     view_->setVerticalScrollBarPolicy(look.autoHideScrollbars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOn);
     view_->SetHeadingsSort(look.headingsSort);
     view_->SetFocusRing(look.useFocusRing);
+    view_->SetRowsArePressed(look.rowsArePressed);
 }
 
 int Listbox::ListIndex() const {
@@ -77,12 +78,20 @@ int Listbox::LastIndex() const {
     return model_->RowCount() - 1;
 }
 
-// The screen learns of new rows with the next turn of the event loop at the latest.
 void Listbox::AddRow(const QString& text) {
-    if (!model_->HasUnannounced()) {
-        QTimer::singleShot(0, view_, [this] { model_->Announce(); });
-    }
+    AnnounceSoon();
     model_->Append(text);
+}
+
+void Listbox::InsertRow(int row, const QString& text, int /*indent*/) {
+    view_->Editor().End();
+    view_->Editor().Abandon();
+    if (row != model_->RowCount()) {
+        CheckRow(*model_, row);
+    }
+    AnnounceSoon();
+    model_->Insert(row, text);
+    events::UnwindIfQuitting();
 }
 
 void Listbox::RemoveRow(int row) {
@@ -135,6 +144,18 @@ void Listbox::SetCellTag(int row, int column, int tag) {
     model_->SetTag(row, tag);
 }
 
+bool Listbox::CellCheck(int row, int column) const {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    return model_->Check(row, column);
+}
+
+void Listbox::SetCellCheck(int row, int column, bool checked) {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetCheck(row, column, checked);
+}
+
 const Picture* Listbox::RowPicture(int row) const {
     CheckRow(*model_, row);
     return model_->RowPicture(row);
@@ -156,6 +177,11 @@ int Listbox::ColumnCount() const {
 
 void Listbox::SetColumnWidths(const QString& widths) {
     view_->SetColumnWidths(widths);
+}
+
+void Listbox::SetColumnType(int column, ColumnType type) {
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetType(column, type);
 }
 
 void Listbox::SetColumnAlignment(int column, TextAlignment alignment) {
@@ -223,4 +249,11 @@ EditField* Listbox::ActiveCell() const {
 void Listbox::AcceptTextDrop() {
     view_->setAcceptDrops(true);
     view_->viewport()->setAcceptDrops(true);
+}
+
+// The screen learns of new rows with the next turn of the event loop at the latest.
+void Listbox::AnnounceSoon() {
+    if (!model_->HasUnannounced()) {
+        QTimer::singleShot(0, view_, [this] { model_->Announce(); });
+    }
 }

@@ -17,6 +17,9 @@ class Picture;
 
 enum class RowSelection { Single, Multiple };
 
+// What a column holds besides its text.
+enum class ColumnType { Default = 0, Plain = 1, CheckBox = 2, Editable = 3 };
+
 // The fixed properties of a list, as a window's layout gives them.
 struct ListboxLook {
     bool hasHeading = false;
@@ -29,6 +32,9 @@ struct ListboxLook {
     // Whether a click on a heading sorts the rows by that column, until the rows are deleted: first click ascending,
     // second click descending.
     bool headingsSort = false;
+    // Whether the rows act like buttons, on the click itself: the space bar and the return key then stand for a click
+    // on the row that the keyboard is at, and a mark shows which one that is.
+    bool rowsArePressed = false;
 };
 
 // A list of rows with text cells, a tag and a picture for each row, and rows that can be selected, edited in place
@@ -85,10 +91,13 @@ public:
     [[nodiscard]] bool Selected(int row) const;
 
     [[nodiscard]] int ListCount() const;
-    // The row added last, or -1.
+    // The last row, which is the one that AddRow added last, or -1.
     [[nodiscard]] int LastIndex() const;
     // Appends a row with this text in column 0.
     void AddRow(const QString& text);
+    // The same, before the row that has this number now; the number of rows appends. These lists are flat, so the
+    // indent has no effect. An edit that runs is ended first.
+    void InsertRow(int row, const QString& text, int indent);
     void RemoveRow(int row);
     void DeleteAllRows();
 
@@ -97,6 +106,10 @@ public:
     // A number that the list keeps for the logic. Only column 0 has one.
     [[nodiscard]] int CellTag(int row, int column) const;
     void SetCellTag(int row, int column, int tag);
+    // The tick of a cell, in a column of any type; only a column of check boxes shows it. The user ticks and unticks it
+    // by a click anywhere in the cell, or by the space bar for the row that the keyboard is at.
+    [[nodiscard]] bool CellCheck(int row, int column) const;
+    void SetCellCheck(int row, int column, bool checked);
     // The picture at the left of column 0; null is none.
     [[nodiscard]] const Picture* RowPicture(int row) const;
     void SetRowPicture(int row, const Picture* picture);
@@ -105,6 +118,7 @@ public:
     [[nodiscard]] int ColumnCount() const;
     // See ColumnWidths.h.
     void SetColumnWidths(const QString& widths);
+    void SetColumnType(int column, ColumnType type);
     void SetColumnAlignment(int column, TextAlignment alignment);
     [[nodiscard]] QString Heading(int column) const;
     void SetHeading(int column, const QString& text);
@@ -134,6 +148,7 @@ private:
     friend class CellEditor;
 
     explicit Listbox(std::unique_ptr<ListModel> model);
+    void AnnounceSoon();
 
     std::unique_ptr<ListModel> model_;
     ListView* view_;
