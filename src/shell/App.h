@@ -89,6 +89,11 @@ public:
     [[nodiscard]] bool FillInBarList();
     void ShowIngredientRecommendations();
     bool _Ingredients_Recommend_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
+    [[nodiscard]] bool ChangeEmptyStatus(int IngredientID, bool Empty);
+    [[nodiscard]] bool ChangeInBarStatus(int IngredientID, bool InBar);
+    void ShowIngredientsWindow();
+    void SaveIngredientsWindow();
+    bool _Ingredients_AddRemove_Action(); // NOLINT(bugprone-reserved-identifier): a handler, as above
 
     // drinklists/
     [[nodiscard]] bool FillDrinkListsList();

@@ -40,12 +40,16 @@ void MainWindow::BindEvents() {
     MatchIngredients.Action = [this] { MatchIngredients_Action(); };
     RandomDrink.Action = [this] { RandomDrink_Action(); };
 
+    InBarList.CellClick = [this](int row, int column, int x, int y) { return InBarList_CellClick(row, column, x, y); };
     InBarList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return InBarList_CellBackgroundPaint(g, row, column);
     };
     InBarList.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
         return InBarList_CellTextPaint(g, row, column, x, y);
     };
+    IngredAdd.MouseDown = [this](int x, int y) { return IngredAdd_MouseDown(x, y); };
+    IngredAdd.MouseUp = [this](int x, int y) { IngredAdd_MouseUp(x, y); };
+    IngredAdd.MouseExit = [this] { IngredAdd_MouseExit(); };
 
     DrinkListsList.Change = [this] { DrinkListsList_Change(); };
     DrinkListsList.MouseDown = [this](int x, int y) { return DrinkListsList_MouseDown(x, y); };

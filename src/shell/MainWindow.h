@@ -78,8 +78,12 @@ private:
     void RandomDrink_Action();
 
     // bar/
+    bool InBarList_CellClick(int row, int column, int x, int y);
     bool InBarList_CellBackgroundPaint(Graphics& g, int row, int column);
     bool InBarList_CellTextPaint(Graphics& g, int row, int column, int x, int y);
+    bool IngredAdd_MouseDown(int x, int y);
+    void IngredAdd_MouseUp(int x, int y);
+    void IngredAdd_MouseExit();
 
     // drinklists/
     void DrinkListsList_Change();

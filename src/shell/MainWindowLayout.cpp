@@ -104,9 +104,9 @@ void MainWindow::DressControls() {
     SideDrinklistsLabel.SetEnabled(false);
     SideIngredLabel.SetEnabled(false);
 
-    //                                heading focus  selection             drag   hide   sorts
+    //                                heading focus  selection             drag   hide   sorts  pressed
     const std::pair<Listbox&, ListboxLook> lists[] = {
-        {InBarList, {false, false, RowSelection::Single, false, true, false}},
+        {InBarList, {false, false, RowSelection::Single, false, true, false, true}},
         {DrinkListsList, {false, true, RowSelection::Single, false, true, false}},
         {DrinkList, {true, false, RowSelection::Multiple, true, false, true}},
     };

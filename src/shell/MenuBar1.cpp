@@ -64,6 +64,7 @@ void App::_ApplicationAddMenuHandlers() {
     bind("Edit_Preferences", &App::_Edit_Preferences_Action);
     bind("Help_About", &App::_Help_About_Action);
     bind("Ingredients_Recommend", &App::_Ingredients_Recommend_Action);
+    bind("Ingredients_AddRemove", &App::_Ingredients_AddRemove_Action);
 }
 
 // The command stands in the menu and does nothing when chosen, by decision; the fields of the recipe panel can be
