@@ -85,11 +85,15 @@ void ListModel::SetCheck(int row, int column, bool checked) {
     CellChanged(row, column);
 }
 
+// Paint events may make the other cells of the row follow the picture. They are told one by one, because a view paints
+// all its rows again for more than one.
 void ListModel::SetRowPicture(int row, const Picture* picture) {
     Row& changed = rows_[static_cast<std::size_t>(row)];
     if (changed.picture != picture) {
         changed.picture = picture;
-        CellChanged(row, 0);
+        for (int column = 0; column < columnCount_; ++column) {
+            CellChanged(row, column);
+        }
     }
 }
 

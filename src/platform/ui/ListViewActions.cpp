@@ -63,6 +63,14 @@ QModelIndex ListView::CheckCellAt(const QPoint& place) const {
     return cell.isValid() && model_.Type(cell.column()) == ColumnType::CheckBox ? cell : QModelIndex();
 }
 
+// The mark goes over all columns of a row, and Qt paints only the two cells again.
+void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (rowsArePressed_) {
+        viewport()->update();
+    }
+}
+
 void ListView::SetKeyboardUsed(bool used) {
     if (keyboardUsed_ != used) {
         keyboardUsed_ = used;
@@ -79,6 +87,8 @@ void ListView::PaintRowMark() {
     const QRect row = visualRect(model_.index(current.row(), 0))
                           .united(visualRect(model_.index(current.row(), model_.ColumnCount() - 1)));
     QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Highlight).darker(170));
-    painter.drawRect(row.adjusted(0, 0, -1, -1));
+    // Well within the row, because a list may reach under its neighbours by a pixel or two.
+    painter.drawRoundedRect(QRectF(row).adjusted(4.5, 1.5, -3.5, -0.5), 3, 3);
 }
