@@ -8,7 +8,7 @@ TEST_F(ListboxSelectionTest, ChangeComesOnceForAChangeAndTheLowestRowIsTheIndex)
         std::function<void()> act;
         QStringList told;
     };
-    GivenRows({"Ale", "Bock", "Cava", "Duvel"});
+    GivenRows({"Ale", "Bock", "  Cava", "Duvel"});
     Listbox& list = window->List;
     list.Change = [&] { log << QString("%1 of %2").arg(list.ListIndex()).arg(list.SelCount()); };
     const Case cases[] = {

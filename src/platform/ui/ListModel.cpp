@@ -209,6 +209,19 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     return {};
 }
 
+// Blanks are how a list indents its rows.
+QModelIndexList ListModel::match(const QModelIndex& start, int /*role*/, const QVariant& value, int /*hits*/,
+                                 Qt::MatchFlags /*flags*/) const {
+    const QString sought = value.toString();
+    for (int step = 0; step < announced_; ++step) {
+        const int row = (start.row() + step) % announced_;
+        if (Text(row, start.column()).trimmed().startsWith(sought, Qt::CaseInsensitive)) {
+            return {index(row, start.column())};
+        }
+    }
+    return {};
+}
+
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
     if (!index.isValid()) {
         return Qt::NoItemFlags;

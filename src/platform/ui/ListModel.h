@@ -51,6 +51,9 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    // What the keyboard finds: the next row whose text begins so, blanks at its front and case aside.
+    [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                        Qt::MatchFlags flags) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
