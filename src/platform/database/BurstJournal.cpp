@@ -1,6 +1,7 @@
 #include "platform/database/BurstJournal.h"
 
 #include <sqlite3.h>
+#include <sys/statvfs.h>
 
 #include <cstring>
 
@@ -9,6 +10,15 @@ namespace {
 // The way to the log and back costs as much as four statements in the rollback journal, so a lone statement stays
 // there. Sooner than at the second a burst cannot be known.
 constexpr int statementsBeforeLog = 1;
+
+// The log, which is brought into the file when it has come to 1,000 pages, and its index.
+constexpr unsigned long roomForLog = 2UL * 1024 * 1024;
+
+// A file that was switched and has no room for the index cannot even be read.
+bool HasRoomForLog(sqlite3* engine) {
+    struct statvfs disk {};
+    return statvfs(sqlite3_db_filename(engine, "main"), &disk) == 0 && disk.f_bavail * disk.f_frsize >= roomForLog;
+}
 
 // What cannot be done now is done at the end of a later connection.
 void Try(sqlite3* engine, const char* statement) {
@@ -36,7 +46,7 @@ BurstJournal::~BurstJournal() {
 
 void BurstJournal::BeforeWriting() {
     const bool inTransaction = sqlite3_get_autocommit(engine_) == 0;
-    if (!inTransaction && statements_++ == statementsBeforeLog) {
+    if (!inTransaction && statements_++ == statementsBeforeLog && HasRoomForLog(engine_)) {
         Begin();
     }
 }
