@@ -190,6 +190,10 @@ void ListView::resizeEvent(QResizeEvent* event) {
 
 void ListView::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
+    if (focusRing_ && hasFocus()) {
+        // Qt moves what is painted, and the ring with it.
+        viewport()->update();
+    }
     editor_.FollowCell();
 }
 
