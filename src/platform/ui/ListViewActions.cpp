@@ -24,6 +24,12 @@ bool ListView::TakeActionKey(const QKeyEvent& event) {
     const bool space = event.key() == Qt::Key_Space;
     const bool pressesRow = rowsArePressed_ && (space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
     const int row = currentIndex().row();
+    // A return key that is held down to end an edit must not begin the next one.
+    const bool opens = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_F2;
+    if (opens && !event.isAutoRepeat() && list_.DoubleClick && SelectedCount() > 0) {
+        events::Raise(list_.DoubleClick);
+        return true;
+    }
     if (row < 0 || (!space && !pressesRow)) {
         return false;
     }

@@ -57,6 +57,7 @@ public:
     std::function<bool(int row, int column, int x, int y)> CellClick;
     // A press anywhere in the list, before anything else; true ends it there.
     std::function<bool(int x, int y)> MouseDown;
+    // Also raised by return and F2 on a selected row, the keyboard's way to the same.
     std::function<void()> DoubleClick;
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
