@@ -21,6 +21,8 @@
 namespace {
 
 constexpr int headingHeight = 22;
+constexpr int dragWidth = 220;
+constexpr QPoint dragOffset(16, 12);
 
 void PrepareHeaders(QHeaderView& rows, QHeaderView& columns) {
     rows.hide();
@@ -203,7 +205,6 @@ bool ListView::TakePress(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return false;
     }
-    pressPlace_ = place;
     pressedCheck_ = QModelIndex();
     SetKeyboardUsed(false);
     if (events::Raise(list_.MouseDown, inList.x(), inList.y())) {
@@ -318,11 +319,11 @@ void ListView::startDrag(Qt::DropActions /*actions*/) {
     carried->setText(item.text);
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
-    // The row itself follows the pointer.
-    const QRect shown =
+    // The row itself follows the pointer, beside it: the place to drop it on must stay in view.
+    const QRect cells =
         visualRect(model_.index(row, 0)).united(visualRect(model_.index(row, model_.ColumnCount() - 1)));
-    drag->setPixmap(viewport()->grab(shown));
-    drag->setHotSpot(pressPlace_ - shown.topLeft());
+    drag->setPixmap(viewport()->grab(QRect(cells.topLeft(), QSize(qMin(cells.width(), dragWidth), cells.height()))));
+    drag->setHotSpot(-dragOffset);
     drag->exec(Qt::CopyAction);
 }
 

@@ -86,8 +86,6 @@ private:
     // The cell with a check box that the mouse was pressed on.
     QPersistentModelIndex pressedCheck_;
     bool pressTaken_ = false;
-    // In the viewport; where a drag was begun.
-    QPoint pressPlace_;
     int sortedColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
