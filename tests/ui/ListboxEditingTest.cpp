@@ -3,6 +3,7 @@
 
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -67,6 +68,13 @@ TEST_F(ListboxEditingTest, EachEndOfAnEditIsToldOnceAndARefusalHoldsTheUser) {
     window->CloseEvent = [this] { log << "close"; };
     window->Widget()->close();
     EXPECT_EQ(log, QStringList({"lost 1,0 ", "close"}));
+}
+
+// The message gets the release of such a press.
+TEST_F(ListboxEditingTest, APressWhileTheUserIsHeldLeavesNoButtonDown) {
+    EmptyTheCell();
+    Click(window->Button, QPoint(9, 9));
+    EXPECT_FALSE(Find<QPushButton>(window->Button)->isDown());
 }
 
 // The way of a grid that is filled by the keyboard alone.

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QTimer>
 
 // The field itself. Keys reach the list's CellKeyDown before the field; text that an input method or a dead key
 // composes comes the same way.
@@ -16,7 +17,7 @@ public:
     Line(CellEditor& owner, QWidget* parent) : QLineEdit(parent), owner_(owner) {
         setObjectName(QStringLiteral("CellEditor"));
         setFrame(false);
-        setTextMargins(3, 0, 3, 0);
+        setTextMargins(1, 0, 1, 0);
         hide();
     }
 
@@ -65,12 +66,32 @@ protected:
         QLineEdit::focusOutEvent(event);
         const QWidget* popup = QApplication::activePopupWidget();
         const bool ownMenu = event->reason() == Qt::PopupFocusReason && popup != nullptr && popup->parent() == this;
-        if (!ownMenu) {
-            owner_.End();
+        if (ownMenu) {
+            return;
+        }
+        const bool byPress = event->reason() == Qt::MouseFocusReason;
+        owner_.End();
+        if (byPress && owner_.IsEditing()) {
+            TakePress();
         }
     }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) {
+            qApp->removeEventFilter(this);
+            return true;
+        }
+        return QLineEdit::eventFilter(watched, event);
+    }
+
 private:
+    // The handler holds the user in the cell. The press that asked for the focus follows at once, and must not reach
+    // its widget: a message has swallowed its release, and a button would stay down for ever.
+    void TakePress() {
+        qApp->installEventFilter(this);
+        QTimer::singleShot(0, this, [this] { qApp->removeEventFilter(this); });
+    }
+
     // The handler may end this edit and start another one.
     bool Offer(const QString& key) { return events::Raise(owner_.list_.CellKeyDown, owner_.row_, owner_.column_, key); }
 
@@ -87,6 +108,10 @@ CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view)
 void CellEditor::Begin(int row, int column) {
     row_ = row;
     column_ = column;
+    const QString heading = model_.Heading(column);
+    line_->setAccessibleName(heading.isEmpty() ? view_.accessibleName() : heading);
+    // Where the list takes texts, one that is dropped on the field is meant for the list too.
+    line_->setAcceptDrops(!view_.acceptDrops());
     view_.scrollTo(model_.index(row, column));
     line_->setFont(view_.font());
     line_->setText(model_.Text(row, column));

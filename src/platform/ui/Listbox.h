@@ -66,7 +66,7 @@ public:
     // A key in a cell that is edited, before the editor sees it. True keeps it from the editor.
     std::function<bool(int row, int column, const QString& key)> CellKeyDown;
     // The edit of a cell ended, for whatever reason; the cell has the new text. Raised once for each edit. The
-    // handler may start the next edit.
+    // handler may start the next edit; a press that ended the last one then does nothing more.
     std::function<void(int row, int column)> CellLostFocus;
     // Before a cell is drawn, over the list's plain ground. True keeps the list from drawing its selection mark. Also
     // raised for the rows that would stand below the last one.
@@ -140,7 +140,7 @@ public:
     // The field that edits a cell now, or null.
     [[nodiscard]] EditField* ActiveCell() const;
 
-    // Lets texts be dropped on the list.
+    // Lets texts be dropped on the list, a cell that is edited included.
     void AcceptTextDrop();
 
 private:
