@@ -1,6 +1,5 @@
 #include "platform/ui/Graphics.h"
 #include "platform/ui/Picture.h"
-#include "shell/App.h"
 #include "shell/MainWindow.h"
 
 namespace {
@@ -69,16 +68,4 @@ bool MainWindow::DrinkListsList_CellTextPaint(Graphics& g, int row, int column, 
         g.SetForeColor(selected ? accent : white);
     }
     return false;
-}
-
-void MainWindow::DrinkListsList_Change() {
-    if (App::Instance().AppLoaded) {
-        // The fill has told the user of any failure.
-        static_cast<void>(App::Instance().FillDrinkList());
-    }
-}
-
-// A click below the last row must not take the selection away: one list is chosen at all times.
-bool MainWindow::DrinkListsList_MouseDown(int x, int y) {
-    return DrinkListsList.RowFromXY(x, y) == -1;
 }

@@ -7,6 +7,7 @@
 
 class FolderItem;
 class InternetHeaders;
+#include <vector>
 
 // The application object: the values that outlive one operation, and every operation on the drink store.
 //
@@ -50,6 +51,9 @@ public:
     bool Option_ViewDrinkType = false;
     bool Option_CheckForAppUpdates = false;
     bool Option_ShareRatings = false;
+
+    // Not in use: the cells of the list of drinklists carry the counts.
+    std::vector<int> DrinkListCounts;
 
     // store/
     // Connects a new database object to the user's file. The caller closes it.
@@ -97,6 +101,14 @@ public:
 
     // drinklists/
     [[nodiscard]] bool FillDrinkListsList();
+    // Stores the name of a list. The id is 0 for a new list, and then becomes the one that the database gave.
+    [[nodiscard]] bool UpdateDrinkLists(const QString& DrinkListName, int& DrinkListID);
+    [[nodiscard]] bool DeleteDrinkList(int DrinkListID);
+    [[nodiscard]] bool AddToDrinkList(int DrinkListID, int DrinkID);
+    // True also when the drink was not in the list.
+    [[nodiscard]] bool DeleteFromDrinkList(int DrinkListID, int DrinkID);
+    bool _File_NewDrinklist_Action(); // NOLINT(bugprone-reserved-identifier): as above
+    bool _File_DeleteList_Action();   // NOLINT(bugprone-reserved-identifier): as above
 
     // updates/
     // Asks the vendor's web site for the latest version and shows a notice if it is newer than this one. The user works

@@ -51,14 +51,29 @@ void MainWindow::BindEvents() {
     IngredAdd.MouseUp = [this](int x, int y) { IngredAdd_MouseUp(x, y); };
     IngredAdd.MouseExit = [this] { IngredAdd_MouseExit(); };
 
+    BindDrinkListsEvents();
+}
+
+void MainWindow::BindDrinkListsEvents() {
     DrinkListsList.Change = [this] { DrinkListsList_Change(); };
     DrinkListsList.MouseDown = [this](int x, int y) { return DrinkListsList_MouseDown(x, y); };
+    DrinkListsList.DoubleClick = [this] { DrinkListsList_DoubleClick(); };
+    DrinkListsList.CellLostFocus = [this](int row, int /*column*/) { DrinkListsList_CellLostFocus(row); };
+    DrinkListsList.KeyDown = [this](const QString& key) { return DrinkListsList_KeyDown(key); };
+    DrinkListsList.DragOver = [this](int x, int y, const DragItem&, int) { return DrinkListsList_DragOver(x, y); };
+    DrinkListsList.DropObject = [this](const DragItem&, int) { DrinkListsList_DropObject(); };
+    DrinkListsList.LostFocus = [this] { DrinkListsList_LostFocus(); };
     DrinkListsList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return DrinkListsList_CellBackgroundPaint(g, row, column);
     };
     DrinkListsList.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
         return DrinkListsList_CellTextPaint(g, row, column, x, y);
     };
+    DrinkListsList_Open();
+
+    DrinkListAdd.MouseDown = [this](int, int) { return DrinkListAdd_MouseDown(); };
+    DrinkListAdd.MouseUp = [this](int, int) { DrinkListAdd_MouseUp(); };
+    DrinkListAdd.MouseExit = [this] { DrinkListAdd_MouseExit(); };
 }
 
 // A menu bar knows nothing of drinks; what it offers depends on what is selected.

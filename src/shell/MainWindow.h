@@ -10,8 +10,8 @@
 // The program's one permanent window: the user's drinklists above the ingredients in the bar at the left, the list of
 // drinks above the recipe panel at the right. Closing it ends the program.
 //
-// The window keeps no state of its own: its controls and the database are the state. Where the controls stand is in
-// MainWindowLayout.cpp; each handler is defined in the folder of its subsystem.
+// Between two events the window keeps no state of its own: its controls and the database are the state. Where the
+// controls stand is in MainWindowLayout.cpp; each handler is defined in the folder of its subsystem.
 class MainWindow : public Window {
 public:
     MainWindow();
@@ -56,10 +56,14 @@ public:
     EditField DrinkRecipeLabel{EditField::Lines::Many};
     EditField DrinkInstructionsLabel{EditField::Lines::Many};
 
+    // The row of DrinkListsList under the pointer during the latest drag; -1 below the last row.
+    int DrinkListDragRow = -1;
+
 private:
     void PlaceControls();
     void DressControls();
     void BindEvents();
+    void BindDrinkListsEvents();
 
     // shell/
     void Event_Close();
@@ -86,8 +90,18 @@ private:
     void IngredAdd_MouseExit();
 
     // drinklists/
+    void DrinkListsList_Open();
     void DrinkListsList_Change();
     bool DrinkListsList_MouseDown(int x, int y);
+    void DrinkListsList_DoubleClick();
+    void DrinkListsList_CellLostFocus(int row);
+    bool DrinkListsList_KeyDown(const QString& key);
+    bool DrinkListsList_DragOver(int x, int y);
+    void DrinkListsList_DropObject();
+    void DrinkListsList_LostFocus();
     bool DrinkListsList_CellBackgroundPaint(Graphics& g, int row, int column);
     bool DrinkListsList_CellTextPaint(Graphics& g, int row, int column, int x, int y);
+    bool DrinkListAdd_MouseDown();
+    void DrinkListAdd_MouseUp();
+    void DrinkListAdd_MouseExit();
 };

@@ -56,7 +56,9 @@ void App::_ApplicationAddMenuHandlers() {
     bind("View_RatingsColumn", &App::_View_RatingsColumn_Action);
     bind("View_DrinkTypeColumn", &App::_View_DrinkTypeColumn_Action);
     bind("View_GlassColumn", &App::_View_GlassColumn_Action);
+    bind("File_DeleteList", &App::_File_DeleteList_Action);
     bind("Edit_CopyRecipe", &App::_Edit_CopyRecipe_Action);
+    bind("File_NewDrinklist", &App::_File_NewDrinklist_Action);
     bind("File_Print", &App::_File_Print_Action);
     bind("Window_Minimize", &App::_Window_Minimize_Action);
     bind("Window_Zoom", &App::_Window_Zoom_Action);

@@ -88,3 +88,11 @@ def Type(text):
 
 def ClickAt(x, y):
     Xdotool("mousemove", str(x), str(y), "click", "1")
+
+
+def Drag(start, end):
+    """From one place of a screen to another, a little inside of both, and slowly: the first step is not yet a drag."""
+    Xdotool("mousemove", str(start[0] + 20), str(start[1] + 8), "mousedown", "1")
+    for part in range(1, 9):
+        Xdotool("mousemove", *(str(a + (b - a) * part // 8 + inside) for a, b, inside in zip(start, end, (20, 8))))
+    Xdotool("mouseup", "1")

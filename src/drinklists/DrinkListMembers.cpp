@@ -1,0 +1,41 @@
+#include "platform/base/Text.h"
+#include "platform/ui/MsgBox.h"
+#include "shell/App.h"
+
+bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
+    REALSQLDatabase db;
+    if (!GetDatabase(db)) {
+        return false;
+    }
+    const RecordSet members = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = ") +
+                                           CStr(DrinkListID) + QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
+    if (db.Error()) {
+        MsgBox(QStringLiteral("An error occurred attempting to query drinklists: ") + db.ErrorMessage());
+        return false;
+    }
+    if (!members.Eof()) {
+        MsgBox(QStringLiteral("You have previously added this drink to the selected drinklist"));
+        return false;
+    }
+    db.SQLExecute(QStringLiteral("INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES (") + CStr(DrinkListID) +
+                  QStringLiteral(", ") + CStr(DrinkID) + QStringLiteral(")"));
+    if (db.Error()) {
+        MsgBox(QStringLiteral("An error occurred inserting drink into drinklist: ") + db.ErrorMessage());
+        return false;
+    }
+    return true;
+}
+
+bool App::DeleteFromDrinkList(int DrinkListID, int DrinkID) {
+    REALSQLDatabase db;
+    if (!GetDatabase(db)) {
+        return false;
+    }
+    db.SQLExecute(QStringLiteral("DELETE FROM DrinkListXRef WHERE DrinkListID = ") + CStr(DrinkListID) +
+                  QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
+    if (db.Error()) {
+        MsgBox(QStringLiteral("An error occurred removing a drink from a drinklist: ") + db.ErrorMessage());
+        return false;
+    }
+    return true;
+}
