@@ -34,6 +34,16 @@ QSize BoxSize(const QStyleOptionViewItem& option) {
             style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget)};
 }
 
+// The capitals stand in the middle of the row, whatever space the font leaves above and below them.
+void DrawLine(QPainter& painter, const QRect& room, TextAlignment alignment, const QString& text) {
+    const QFontMetricsF font(painter.font());
+    const QString line = font.elidedText(text, Qt::ElideRight, room.width());
+    const qreal free = room.width() - font.horizontalAdvance(line);
+    const qreal before = alignment == TextAlignment::Left ? 0 : alignment == TextAlignment::Centre ? free / 2 : free;
+    const int baseline = static_cast<int>((room.height() + font.capHeight()) / 2);
+    painter.drawText(QPointF(room.left() + before, baseline), line);
+}
+
 } // namespace
 
 ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
@@ -120,13 +130,10 @@ void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& optio
                                              (cell.height() + painter.fontMetrics().ascent()) / 2)) {
         return;
     }
-    const TextAlignment alignment = model_.Alignment(column);
-    const QRect line = alignment == TextAlignment::Centre
-                           ? QRect(0, 0, cell.width(), cell.height())
-                           : QRect(left, 0, cell.width() - left - textMargin, cell.height());
     // A line break in a text is shown as a blank: a row has one line.
     QString shown = text;
     shown.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
-    painter.drawText(line, QtAlignment(alignment) | Qt::AlignVCenter | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(shown, Qt::ElideRight, line.width()));
+    const bool centred = model_.Alignment(column) == TextAlignment::Centre;
+    const QRect room(centred ? 0 : left, 0, cell.width() - (centred ? 0 : left + textMargin), cell.height());
+    DrawLine(painter, room, model_.Alignment(column), shown);
 }
