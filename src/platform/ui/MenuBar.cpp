@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
 #include <map>
 #include <set>
@@ -141,7 +142,11 @@ MenuBar::MenuBar(const std::vector<MenuTitle>& menus, const std::vector<MenuRow>
     for (const MenuTitle& title : menus) {
         auto& menu = state_->menus.emplace_back(std::make_unique<QMenu>(QString::fromUtf8(title.caption)));
         menu->setObjectName(QString::fromLatin1(title.menu));
-        QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] { UpdateItems(); });
+        QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this, shown = menu.get()] {
+            UpdateItems();
+            // The menu takes the focus as it shows. That ends an edit, whose handler may change what can be done.
+            QTimer::singleShot(0, shown, [this] { UpdateItems(); });
+        });
         state_->menuByName[QString::fromLatin1(title.menu)] = menu.get();
     }
     for (const MenuRow& row : rows) {
