@@ -2,10 +2,16 @@
 
 #include "LoopbackServer.h"
 #include "PrintText.h"
+#include "platform/ui/Application.h"
 
 #include <gtest/gtest.h>
 
-TEST(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
+// The wait serves the events of an application.
+class HTTPSocketTest : public testing::Test {
+    Application application_;
+};
+
+TEST_F(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
     using Then = LoopbackServer::Then;
     const int TimedOut = HTTPSocket::TimedOut;
     const int TooLong = HTTPSocket::TooLong;
@@ -43,7 +49,7 @@ TEST(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
     }
 }
 
-TEST(HTTPSocketTest, AConnectionThatCannotBeMadeIsAnErrorAtOnce) {
+TEST_F(HTTPSocketTest, AConnectionThatCannotBeMadeIsAnErrorAtOnce) {
     const std::pair<QString, SocketFailure> cases[] = {
         {LoopbackServer({}).Site(), SocketFailure::ConnectionRefused},
         {"", SocketFailure::HostNotFound},
