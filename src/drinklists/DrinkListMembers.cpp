@@ -7,13 +7,15 @@ bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
     if (!GetDatabase(db)) {
         return false;
     }
-    const RecordSet members = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = ") +
+    RecordSet members = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = ") +
                                            CStr(DrinkListID) + QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
     if (db.Error()) {
         MsgBox(QStringLiteral("An error occurred attempting to query drinklists: ") + db.ErrorMessage());
         return false;
     }
     if (!members.Eof()) {
+        members.Close();
+        db.Close();
         MsgBox(QStringLiteral("You have previously added this drink to the selected drinklist"));
         return false;
     }

@@ -15,7 +15,11 @@ bool IsFirstRun(const RecordSet& setup) {
     return setup.Field("AppWidth").IsNull();
 }
 
-RecordSet SelectSetup(REALSQLDatabase& db) {
+// Connects and reads the user's settings. Without them there is no start.
+RecordSet OpenSetup(App& app, REALSQLDatabase& db) {
+    if (!app.GetDatabase(db)) {
+        Quit(0);
+    }
     RecordSet setup = db.SQLSelect(QStringLiteral("SELECT * FROM Setup"));
     if (db.Error()) {
         MsgBox(QStringLiteral("An error occurred getting the user's setup information: ") + db.ErrorMessage());
@@ -86,18 +90,12 @@ void App::InitApp() {
     }
 
     REALSQLDatabase db;
-    if (!GetDatabase(db)) {
-        Quit(0);
-    }
-    RecordSet setup = SelectSetup(db);
+    RecordSet setup = OpenSetup(*this, db);
     if (!InDevelopment && setup.Field("DBVersion").IntegerValue() != currentDBVersion) {
         setup.Close();
         db.Close();
         UpgradeDBtoVersion2();
-        if (!GetDatabase(db)) {
-            Quit(0);
-        }
-        setup = SelectSetup(db);
+        setup = OpenSetup(*this, db);
     }
 
     MainWindow& window = MainWindow::Instance();

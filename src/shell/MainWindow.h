@@ -57,7 +57,7 @@ public:
     EditField DrinkInstructionsLabel{EditField::Lines::Many};
 
     // The row of DrinkListsList under the pointer during the latest drag; -1 below the last row.
-    int DrinkListDragRow = -1;
+    int DrinkListDragRow = 0;
 
 private:
     void PlaceControls();

@@ -91,8 +91,7 @@ def Check(desktop, number, name, damage, message):
     if not any(re.match(expected, line) for line in words):
         raise AssertionError(f"{name}: expected {expected!r}, but saw {words!r}")
 
-    pourbook.WaitForKeyboard()
-    Desktop.Key("Return")
+    pourbook.Click(pourbook.screen.Find("OK", pourbook.screen.atspi.ROLE_PUSH_BUTTON))
     pourbook.ExpectEnd()
     ExpectEqual(FilesUnder(home.path) == before, True, "the user's files are as they were: " + name)
     if message == CANNOT_SET_UP:
