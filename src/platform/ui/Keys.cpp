@@ -23,5 +23,9 @@ QString KeyText(const QKeyEvent& event) {
             return QString(QChar(named.code));
         }
     }
-    return event.text();
+    // With the control key a letter names a command, and its text would be the code of another key: that of Ctrl+H is a
+    // backspace.
+    const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) != 0 &&
+                         (event.modifiers() & Qt::AltModifier) == 0;
+    return command ? QString() : event.text();
 }
