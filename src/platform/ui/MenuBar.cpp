@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
 
 #include <map>
@@ -205,6 +206,10 @@ QMenuBar* MenuBar::MakeWidget() {
     for (const auto& menu : state_->menus) {
         widget->addMenu(menu.get());
     }
+    // The key that opens the menus on this platform; Qt knows only the letters of the captions.
+    auto* open = new QShortcut(QKeySequence(Qt::Key_F10), widget);
+    QObject::connect(open, &QShortcut::activated, widget,
+                     [widget] { widget->setActiveAction(widget->actions().value(0)); });
     return widget;
 }
 
