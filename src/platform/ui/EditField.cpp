@@ -13,6 +13,7 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 // What a field of one line and a field of many have in common.
@@ -97,6 +98,22 @@ QString WithLineFeeds(QString text) {
     return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+// Gives a field of one line the text that the user pasted with blanks for its line breaks.
+void PasteAsOneLine(QLineEdit& edit, QString text) {
+    bool changed = false;
+    for (QChar& character : text) {
+        if (character == u'\n' || character == u'\r' || character == u'\x2028' || character == u'\x2029') {
+            character = u' ';
+            changed = true;
+        }
+    }
+    if (changed) {
+        const int caret = edit.cursorPosition();
+        edit.setText(text);
+        edit.setCursorPosition(caret);
+    }
+}
+
 QPalette FieldPalette(QPalette palette, const EditFieldLook& look) {
     palette.setColor(QPalette::Text, QColor(QRgb(look.textColor.rgb)));
     palette.setColor(QPalette::Base, QColor(QRgb(look.backColor.rgb)));
@@ -113,7 +130,11 @@ QFont FieldFont(const QFont& base, const EditFieldLook& look) {
 
 class EditField::LineEditor : public Editor {
 public:
-    explicit LineEditor(QLineEdit* edit) : edit_(edit) {}
+    explicit LineEditor(QLineEdit* edit) : edit_(edit) {
+        edit_->setMaxLength(std::numeric_limits<int>::max());
+        QObject::connect(edit, &QLineEdit::textEdited, edit,
+                         [edit](const QString& text) { PasteAsOneLine(*edit, text); });
+    }
 
     void SetLook(const EditFieldLook& look) override {
         edit_->setPalette(FieldPalette(edit_->palette(), look));
@@ -153,10 +174,14 @@ public:
         edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         edit_->document()->setDocumentMargin(1);
+        edit_->setAcceptRichText(false);
+        edit_->setTabChangesFocus(true);
     }
 
     void SetLook(const EditFieldLook& look) override {
         look_ = look;
+        edit_->setFrameShape(look.border ? QFrame::StyledPanel : QFrame::NoFrame);
+        edit_->setVerticalScrollBarPolicy(look.verticalScrollBar ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
         edit_->setPalette(FieldPalette(edit_->palette(), look));
         edit_->setFont(FieldFont(edit_->font(), look));
         edit_->setReadOnly(look.readOnly);

@@ -19,14 +19,16 @@ struct EditFieldLook {
     TextAlignment alignment = TextAlignment::Left;
     bool readOnly = false;
     bool border = false;
-    bool wraps = true; // many lines only: whether a line too long for the field goes on below
+    bool wraps = true;              // many lines only: whether a line too long for the field goes on below
+    bool verticalScrollBar = false; // many lines only
 };
 
 // A field of text, of one line or of many. Text of a read-only field can be selected and copied.
 //
 // Positions in the text count from 0. Line ends in the text may be of any platform's kind; they read back as a single
-// line feed. Lines of a field of many lines stand at a fixed distance of 1.15 times the text size, so that fields
-// beside each other keep their lines level whatever fonts the machine has.
+// line feed. In a field of one line a line break that the user pastes becomes a blank. Lines of a field of many lines
+// stand at a fixed distance of 1.15 times the text size, so that fields beside each other keep their lines level
+// whatever fonts the machine has.
 class EditField : public Control {
 public:
     enum class Lines { One, Many };
