@@ -1,6 +1,8 @@
 #include "UiFixture.h"
 #include "platform/ui/MsgBox.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -99,20 +101,47 @@ TEST_F(ListboxEditingTest, KeysReachCellKeyDownWhichMovesOnToTheNextCell) {
     EXPECT_EQ(log, QStringList({"lost 0,0 Gin", "lost 0,1 oz"}));
 }
 
-TEST_F(ListboxEditingTest, ComposedTextIsOfferedAsAKey) {
+TEST_F(ListboxEditingTest, ComposedTextIsOfferedKeyByKey) {
     const QString letter = QString::fromUtf8("ê");
     window->List.CellKeyDown = [&](int, int, const QString& key) {
         log << key;
         return key == "z";
     };
     window->List.EditCell(0, 0);
-    for (const QString& text : {letter, QString("z")}) {
-        QInputMethodEvent before("^", {});
-        QCoreApplication::sendEvent(Editor(), &before);
-        QInputMethodEvent composed;
-        composed.setCommitString(text);
-        QCoreApplication::sendEvent(Editor(), &composed);
-        EXPECT_EQ(Editor()->displayText(), letter) << text; // what was being composed is gone too
-    }
+    QInputMethodEvent before("^", {});
+    QCoreApplication::sendEvent(Editor(), &before);
+    QInputMethodEvent composed;
+    composed.setCommitString(letter + "z");
+    QCoreApplication::sendEvent(Editor(), &composed);
+    EXPECT_EQ(Editor()->displayText(), letter) << "what was being composed is gone too";
     EXPECT_EQ(log, QStringList({letter, "z"}));
+}
+
+TEST_F(ListboxEditingTest, UserEditsTheSelectedRowInAnEditableColumn) {
+    window->List.SetColumnType(0, ColumnType::Plain);
+    window->List.SetColumnType(1, ColumnType::Editable);
+    window->List.CellLostFocus = nullptr;
+    const QRect none;
+    const QRect cell(100, 20, 100, 20);
+    const std::tuple<const char*, std::function<void()>, QRect> steps[] = {
+        {"click on another row", [this] { ClickCell(1, 1); }, none},
+        {"click on the selected row", [this] { ClickCell(1, 1); }, cell},
+        {"return", [] { Press(Qt::Key_Return); }, none},
+        {"F2", [] { Press(Qt::Key_F2); }, cell},
+        {"edit of a plain cell", [this] { window->List.EditCell(2, 0); }, none},
+        {"return again", [] { Press(Qt::Key_Return); }, cell.translated(0, 20)},
+        {"click on a plain cell", [this] { ClickCell(2, 0); }, none},
+        {"and again", [this] { ClickCell(2, 0); }, none},
+    };
+    for (const auto& [name, step, expected] : steps) {
+        step();
+        EXPECT_EQ(window->List.ActiveCell() == nullptr ? QRect() : Editor()->geometry(), expected) << name;
+    }
+}
+
+TEST_F(ListboxEditingTest, LineBreaksThatArePastedBecomeBlanks) {
+    window->List.EditCell(0, 0);
+    QApplication::clipboard()->setText("Gin\nDry\r\nOld" + QString(QChar(0x2028)) + QString(40000, 'x'));
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Editor()->text(), "Gin Dry  Old " + QString(40000, 'x'));
 }

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QTimer>
 
 // The field itself. Keys reach the list's CellKeyDown before the field; text that an input method or a dead key
@@ -22,6 +23,14 @@ public:
     }
 
 protected:
+    // Without a frame the field would not stand out from white cells around it.
+    void paintEvent(QPaintEvent* event) override {
+        QLineEdit::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight).darker(170));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+
     bool event(QEvent* event) override {
         // The tab keys would move the focus before keyPressEvent sees them.
         if (event->type() == QEvent::KeyPress) {
@@ -53,12 +62,21 @@ protected:
     }
 
     void inputMethodEvent(QInputMethodEvent* event) override {
-        if (!event->commitString().isEmpty() && Offer(event->commitString())) {
-            QInputMethodEvent taken;
-            QLineEdit::inputMethodEvent(&taken);
+        const QString composed = event->commitString();
+        if (composed.isEmpty()) {
+            QLineEdit::inputMethodEvent(event);
             return;
         }
-        QLineEdit::inputMethodEvent(event);
+        QInputMethodEvent replaced;
+        replaced.setCommitString(QString(), event->replacementStart(), event->replacementLength());
+        QLineEdit::inputMethodEvent(&replaced);
+        // A whole word may come at once; the handler is told of keys.
+        for (const char32_t character : composed.toUcs4()) {
+            const QString key = QString::fromUcs4(&character, 1);
+            if (!Offer(key)) {
+                insert(key);
+            }
+        }
     }
 
     // The field's own context menu takes the focus for a while and gives it back.

@@ -143,6 +143,11 @@ void ListModel::SetAlignment(int column, TextAlignment alignment) {
     ColumnAt(column).alignment = alignment;
 }
 
+QString ListModel::MaxWidthExpression(int column) const {
+    const auto place = static_cast<std::size_t>(column);
+    return place < columns_.size() ? columns_[place].maxWidthExpression : QString();
+}
+
 void ListModel::Sort(const std::function<bool(int row1, int row2)>& isBefore) {
     std::vector<int> order(rows_.size());
     std::iota(order.begin(), order.end(), 0);

@@ -42,6 +42,10 @@ public:
     void SetType(int column, ColumnType type);
     [[nodiscard]] TextAlignment Alignment(int column) const;
     void SetAlignment(int column, TextAlignment alignment);
+    [[nodiscard]] QString MaxWidthExpression(int column) const;
+    void SetMaxWidthExpression(int column, const QString& expression) {
+        ColumnAt(column).maxWidthExpression = expression;
+    }
 
     // Puts the rows in the order of the comparison, which is given row numbers as they were before. Rows that compare
     // equal keep their order. Views keep each row's selection.
@@ -68,6 +72,7 @@ private:
         QString heading;
         ColumnType type = ColumnType::Default;
         TextAlignment alignment = TextAlignment::Left;
+        QString maxWidthExpression;
     };
 
     [[nodiscard]] Row MakeRow(const QString& text) const;

@@ -58,6 +58,7 @@ ListView::ListView(Listbox& list, ListModel& model)
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setDropIndicatorShown(false);
+    SetRowHeight(0);
     // Qt's own item drops are not used, and the move cursor would promise what does not happen.
     setDefaultDropAction(Qt::CopyAction);
     // Without a row in either set, Qt tells only that selected rows will get other numbers.
@@ -157,6 +158,7 @@ void ListView::paintEvent(QPaintEvent* event) {
     if (MarksCurrentRow()) {
         PaintRowMark();
     }
+    PaintGridLines();
     if (focusRing_ && hasFocus()) {
         PaintFocusRing();
     }
@@ -223,6 +225,7 @@ bool ListView::TakePress(QMouseEvent* event) {
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {
+    NoteEditableCell(event);
     if (pressTaken_ || !TakePress(event)) {
         QTableView::mousePressEvent(event);
     }
@@ -231,6 +234,7 @@ void ListView::mousePressEvent(QMouseEvent* event) {
 // The second press of a double click is a click on the cell like the first. Where it did not meet the same cell, Qt
 // makes a plain press of it, which must not be told once more.
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    NoteEditableCell(event);
     if (TakePress(event)) {
         return;
     }
@@ -262,6 +266,11 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         // Coming by the keyboard, Qt stands on the first row without selecting it, and would go on to the second.
         SelectOnly(std::max(0, currentIndex().row()));
         scrollTo(currentIndex());
+        return;
+    }
+    // A return key that is held down to end an edit must not begin the next one.
+    const bool editKey = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
+    if (editKey && !event->isAutoRepeat() && EditAtKeyboard()) {
         return;
     }
     QTableView::keyPressEvent(event);

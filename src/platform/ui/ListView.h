@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/ui/CellEditor.h"
+#include "platform/ui/Listbox.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
-class Listbox;
 class ListModel;
 class ListPainter;
 
@@ -35,6 +36,10 @@ public:
     void SetHeadingsSort(bool sort);
     void SetFocusRing(bool ring) { focusRing_ = ring; }
     void SetRowsArePressed(bool pressed) { rowsArePressed_ = pressed; }
+    void SetGridLines(GridLines horizontal, GridLines vertical);
+    // Edits the cell; where its column does not allow that, the list gets the focus, to go on from that row. No edit
+    // may be running, and the cell must exist.
+    void OpenCell(int row, int column);
     // The rows are in the logic's own order again.
     void ForgetSorting();
 
@@ -71,6 +76,13 @@ private:
     void PaintRowMark();
     void PaintEmptyRows();
     void PaintFocusRing();
+    void PaintGridLines();
+    // Remembers the cell if a click that ends there is to edit it.
+    void NoteEditableCell(const QMouseEvent* event);
+    void EditClickedCell(const QMouseEvent* event);
+    // Edits the cell that the keyboard is at, or the first one of its row that can be edited. False: there is none.
+    [[nodiscard]] bool EditAtKeyboard();
+    void EditByUser(int row, int column);
     void SortBy(int column);
     [[nodiscard]] QPoint InList(const QPoint& inViewport) const;
 
@@ -85,7 +97,10 @@ private:
     bool keyboardUsed_ = false;
     // The cell with a check box that the mouse was pressed on.
     QPersistentModelIndex pressedCheck_;
+    bool horizontalLines_ = false;
+    bool verticalLines_ = false;
     bool pressTaken_ = false;
+    QPersistentModelIndex editedByClick_;
     int sortedColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };

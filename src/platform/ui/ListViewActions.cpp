@@ -17,6 +17,7 @@ void ListView::mouseReleaseEvent(QMouseEvent* event) {
         ToggleCheck(cell.row(), cell.column());
     }
     pressedCheck_ = QModelIndex();
+    EditClickedCell(event);
 }
 
 // A key that is held down acts once.

@@ -44,6 +44,8 @@ void Listbox::SetLook(const ListboxLook& look) {
     view_->SetHeadingsSort(look.headingsSort);
     view_->SetFocusRing(look.useFocusRing);
     view_->SetRowsArePressed(look.rowsArePressed);
+    view_->setFrameShape(look.border ? QFrame::StyledPanel : QFrame::NoFrame);
+    view_->SetGridLines(look.horizontalLines, look.verticalLines);
 }
 
 int Listbox::ListIndex() const {
@@ -189,6 +191,16 @@ void Listbox::SetColumnAlignment(int column, TextAlignment alignment) {
     model_->SetAlignment(column, alignment);
 }
 
+QString Listbox::MaxWidthExpression(int column) const {
+    CheckColumn(column, model_->ColumnCount());
+    return model_->MaxWidthExpression(column);
+}
+
+void Listbox::SetMaxWidthExpression(int column, const QString& expression) {
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetMaxWidthExpression(column, expression);
+}
+
 QString Listbox::Heading(int column) const {
     CheckColumn(column, model_->ColumnCount());
     return model_->Heading(column);
@@ -238,7 +250,7 @@ void Listbox::EditCell(int row, int column) {
     CheckRow(*model_, row);
     CheckColumn(column, model_->ColumnCount());
     model_->Announce();
-    view_->Editor().Begin(row, column);
+    view_->OpenCell(row, column);
     events::UnwindIfQuitting();
 }
 

@@ -17,8 +17,11 @@ class Picture;
 
 enum class RowSelection { Single, Multiple };
 
-// What a column holds besides its text.
+// What the cells of a column are. Those of Default and Editable columns can be edited by EditCell, and those of an
+// Editable one by the user too: with a click on a cell of the selected row, a double click, or Return or F2.
 enum class ColumnType { Default = 0, Plain = 1, CheckBox = 2, Editable = 3 };
+
+enum class GridLines { Default = 0, None = 1, ThinDotted = 2 };
 
 // The fixed properties of a list, as a window's layout gives them.
 struct ListboxLook {
@@ -35,6 +38,10 @@ struct ListboxLook {
     // Whether the rows act like buttons, on the click itself: the space bar and the return key then stand for a click
     // on the row that the keyboard is at, and a mark shows which one that is.
     bool rowsArePressed = false;
+    // Lines between the rows and between the columns, also below the last row.
+    GridLines horizontalLines = GridLines::Default;
+    GridLines verticalLines = GridLines::Default;
+    bool border = false;
 };
 
 // A list of rows with text cells, a tag and a picture for each row, and rows that can be selected, edited in place
@@ -121,6 +128,9 @@ public:
     void SetColumnWidths(const QString& widths);
     void SetColumnType(int column, ColumnType type);
     void SetColumnAlignment(int column, TextAlignment alignment);
+    // An expression that the list keeps for the logic and does not act on.
+    [[nodiscard]] QString MaxWidthExpression(int column) const;
+    void SetMaxWidthExpression(int column, const QString& expression);
     [[nodiscard]] QString Heading(int column) const;
     void SetHeading(int column, const QString& text);
     // In pixels; a number below 1 is the height that the font asks for.
@@ -135,7 +145,8 @@ public:
     [[nodiscard]] int RowFromXY(int x, int y) const;
 
     // Starts the editing of a cell, with its whole text selected; an edit that runs is ended first. Where the handler
-    // of that end starts an edit itself, that one stands and nothing else happens.
+    // of that end starts an edit itself, that one stands and nothing else happens. In a column that cannot be edited
+    // only the old edit ends: the list gets the focus, and its keys go on from that row.
     void EditCell(int row, int column);
     // The field that edits a cell now, or null.
     [[nodiscard]] EditField* ActiveCell() const;
