@@ -39,6 +39,17 @@ void RadioButton::SetValue(bool value) {
     static_cast<QRadioButton*>(Widget())->setChecked(value);
 }
 
+BevelButton::BevelButton() : Control(new QPushButton) {
+    auto* button = static_cast<QPushButton*>(Widget());
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [this] { events::Raise(Action); });
+}
+
+void BevelButton::SetCaption(const QString& caption) {
+    static_cast<QPushButton*>(Widget())->setText(caption);
+}
+
 CheckBox::CheckBox() : Control(new QCheckBox) {
     auto* box = static_cast<QCheckBox*>(Widget());
     QObject::connect(box, &QCheckBox::toggled, box, [this] { events::Raise(Action); });

@@ -28,6 +28,16 @@ public:
     void SetValue(bool value);
 };
 
+// A small button for the mouse that leaves the keyboard focus, and so an edit in a list, where it is.
+class BevelButton : public Control {
+public:
+    BevelButton();
+
+    std::function<void()> Action;
+
+    void SetCaption(const QString& caption);
+};
+
 // A box that is ticked or not.
 class CheckBox : public Control {
 public:

@@ -2,11 +2,19 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTextCursor>
 #include <QTextEdit>
 
 namespace {
+
+// A box with a list keeps the focus for the field inside it.
+QWidget* FocusedField() {
+    QWidget* focused = QApplication::focusWidget();
+    const auto* box = qobject_cast<QComboBox*>(focused);
+    return box == nullptr ? focused : box->lineEdit();
+}
 
 bool CanDoWith(MenuItemKind kind, bool hasSelection, bool isReadOnly) {
     switch (kind) {
@@ -43,7 +51,7 @@ void DoOn(Field* field, MenuItemKind kind) {
 namespace standardedit {
 
 bool CanDo(MenuItemKind kind) {
-    QWidget* focused = QApplication::focusWidget();
+    QWidget* focused = FocusedField();
     if (const auto* line = qobject_cast<QLineEdit*>(focused); line != nullptr) {
         return CanDoWith(kind, line->hasSelectedText(), line->isReadOnly());
     }
@@ -54,7 +62,7 @@ bool CanDo(MenuItemKind kind) {
 }
 
 void Do(MenuItemKind kind) {
-    QWidget* focused = QApplication::focusWidget();
+    QWidget* focused = FocusedField();
     if (auto* line = qobject_cast<QLineEdit*>(focused); line != nullptr) {
         DoOn(line, kind);
     } else if (auto* text = qobject_cast<QTextEdit*>(focused); text != nullptr) {
