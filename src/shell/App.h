@@ -110,6 +110,18 @@ public:
     bool _File_NewDrinklist_Action(); // NOLINT(bugprone-reserved-identifier): as above
     bool _File_DeleteList_Action();   // NOLINT(bugprone-reserved-identifier): as above
 
+    // recipes/
+    void ShowNewRecipeWindow();
+    // Saves what stands in the NewRecipe window.
+    void SaveNewDrinkRecipe();
+    [[nodiscard]] bool DeleteDrink(int DrinkID);
+    // The drinks that are selected in the list, up to the first that fails. The list is not refilled.
+    [[nodiscard]] bool DeleteSelectedDrinks();
+    // NOLINTBEGIN(bugprone-reserved-identifier): as above
+    bool _File_NewDrink_Action();
+    bool _File_DeleteDrink_Action();
+    // NOLINTEND(bugprone-reserved-identifier)
+
     // updates/
     // Asks the vendor's web site for the latest version and shows a notice if it is newer than this one. The user works
     // on meanwhile, and hears of no failure. The day is stored in any case.

@@ -65,8 +65,10 @@ void App::_ApplicationAddMenuHandlers() {
     bind("Help_Pourbook", &App::_Help_Pourbook_Action);
     bind("Edit_Preferences", &App::_Edit_Preferences_Action);
     bind("Help_About", &App::_Help_About_Action);
-    bind("Ingredients_Recommend", &App::_Ingredients_Recommend_Action);
     bind("Ingredients_AddRemove", &App::_Ingredients_AddRemove_Action);
+    bind("File_DeleteDrink", &App::_File_DeleteDrink_Action);
+    bind("File_NewDrink", &App::_File_NewDrink_Action);
+    bind("Ingredients_Recommend", &App::_Ingredients_Recommend_Action);
 }
 
 // The command stands in the menu and does nothing when chosen, by decision; the fields of the recipe panel can be
