@@ -44,7 +44,6 @@ void NewRecipe::DressControls() {
 
     ListboxLook gridLook;
     gridLook.hasHeading = true;
-    gridLook.useFocusRing = true;
     gridLook.border = true;
     gridLook.autoHideScrollbars = true;
     gridLook.horizontalLines = GridLines::ThinDotted;

@@ -10,7 +10,7 @@ void ListView::SetGridLines(GridLines horizontal, GridLines vertical) {
 
 void ListView::PaintGridLines() {
     QPainter painter(viewport());
-    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DotLine));
+    painter.setPen(QPen(QColor(0xBBBBBB), 1, Qt::DotLine));
     const int width = viewport()->width();
     const int height = viewport()->height();
     if (horizontalLines_) {

@@ -48,6 +48,15 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
     return QProxyStyle::standardIcon(icon, option, widget);
 }
 
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_Frame && (option->state & State_HasFocus) != 0) {
+        painter->setPen(option->palette.color(QPalette::Highlight).darker(170));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
+}
+
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* returnData) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
