@@ -10,7 +10,11 @@
 PushButton::PushButton() : Control(new QPushButton) {
     auto* button = static_cast<QPushButton*>(Widget());
     button->setAutoDefault(false);
-    QObject::connect(button, &QPushButton::clicked, button, [this] { events::Raise(Action); });
+    QObject::connect(button, &QPushButton::clicked, button, [this, button] {
+        // A press by an assistive tool does not bring the focus, which would end an edit in a cell first.
+        button->setFocus(Qt::OtherFocusReason);
+        events::Raise(Action);
+    });
 }
 
 void PushButton::SetCaption(const QString& caption) {
