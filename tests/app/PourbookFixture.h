@@ -52,7 +52,9 @@ protected:
         return Window().Widget()->findChild<Widget*>(QString(name));
     }
 
-    void AnswerNextMessage() { messages_.AnswerNextMessage(); }
+    void AnswerNextMessage(QMessageBox::StandardButton button = QMessageBox::Ok) {
+        messages_.AnswerNextMessage(button);
+    }
     [[nodiscard]] ShownMessage LastMessage() const { return messages_.LastMessage(); }
 
 private:
