@@ -7,8 +7,6 @@
 
 class FolderItem;
 class InternetHeaders;
-#include <vector>
-
 // The application object: the values that outlive one operation, and every operation on the drink store.
 //
 // The class is one; each method is defined in the folder of its subsystem, in the file named for the job. A method
@@ -52,8 +50,8 @@ public:
     bool Option_CheckForAppUpdates = false;
     bool Option_ShareRatings = false;
 
-    // Not in use: the cells of the list of drinklists carry the counts.
-    std::vector<int> DrinkListCounts;
+    // The operations. Handlers of menu items carry their item's name after an underscore.
+    // NOLINTBEGIN(bugprone-reserved-identifier)
 
     // store/
     // Connects a new database object to the user's file. The caller closes it.
@@ -71,7 +69,7 @@ public:
     // shell/
     void InitApp();
     // Binds the menu items to their handlers. Once, before the event loop starts.
-    void _ApplicationAddMenuHandlers(); // NOLINT(bugprone-reserved-identifier): the field's name for it
+    void _ApplicationAddMenuHandlers();
 
     // browser/
     [[nodiscard]] bool FillDrinkList();
@@ -79,7 +77,6 @@ public:
     void ShowDrinkInfo(int DrinkID);
     void ClearDrinkInfo();
     void SetRating(int DrinkID, int Rating);
-    // NOLINTBEGIN(bugprone-reserved-identifier): handlers of menu items carry their item's name after an underscore
     bool _View_RatingsColumn_Action();
     bool _View_DrinkTypeColumn_Action();
     bool _View_GlassColumn_Action();
@@ -87,17 +84,16 @@ public:
     bool _Edit_CopyRecipe_Action();
     bool _Window_Minimize_Action();
     bool _Window_Zoom_Action();
-    // NOLINTEND(bugprone-reserved-identifier)
 
     // bar/
     [[nodiscard]] bool FillInBarList();
-    void ShowIngredientRecommendations();
-    bool _Ingredients_Recommend_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
     [[nodiscard]] bool ChangeEmptyStatus(int IngredientID, bool Empty);
     [[nodiscard]] bool ChangeInBarStatus(int IngredientID, bool InBar);
     void ShowIngredientsWindow();
     void SaveIngredientsWindow();
-    bool _Ingredients_AddRemove_Action(); // NOLINT(bugprone-reserved-identifier): a handler, as above
+    void ShowIngredientRecommendations();
+    bool _Ingredients_AddRemove_Action();
+    bool _Ingredients_Recommend_Action();
 
     // drinklists/
     [[nodiscard]] bool FillDrinkListsList();
@@ -107,8 +103,8 @@ public:
     [[nodiscard]] bool AddToDrinkList(int DrinkListID, int DrinkID);
     // True also when the drink was not in the list.
     [[nodiscard]] bool DeleteFromDrinkList(int DrinkListID, int DrinkID);
-    bool _File_NewDrinklist_Action(); // NOLINT(bugprone-reserved-identifier): as above
-    bool _File_DeleteList_Action();   // NOLINT(bugprone-reserved-identifier): as above
+    bool _File_NewDrinklist_Action();
+    bool _File_DeleteList_Action();
 
     // recipes/
     void ShowNewRecipeWindow();
@@ -117,10 +113,8 @@ public:
     [[nodiscard]] bool DeleteDrink(int DrinkID);
     // The drinks that are selected in the list, up to the first that fails. The list is not refilled.
     [[nodiscard]] bool DeleteSelectedDrinks();
-    // NOLINTBEGIN(bugprone-reserved-identifier): as above
     bool _File_NewDrink_Action();
     bool _File_DeleteDrink_Action();
-    // NOLINTEND(bugprone-reserved-identifier)
 
     // updates/
     // Asks the vendor's web site for the latest version and shows a notice if it is newer than this one. The user works
@@ -128,10 +122,9 @@ public:
     void CheckForNewVersion();
     // What a download in the background would report to. Nothing calls it.
     void DownloadComplete(const QString& url, int httpStatus, const InternetHeaders& headers, const FolderItem& file);
-    bool _Edit_Preferences_Action(); // NOLINT(bugprone-reserved-identifier): the handler of a menu item
+    bool _Edit_Preferences_Action();
 
     // help/
-    // NOLINTBEGIN(bugprone-reserved-identifier): handlers of menu items
     bool _Help_Pourbook_Action();
     bool _Help_About_Action();
     // NOLINTEND(bugprone-reserved-identifier)
