@@ -111,7 +111,8 @@ TEST(SeedBuild, SameTextGivesSameRowsAndFaultyTextKeepsTheOldSeed) {
     faulty.write("Caf\xe9\n");
     faulty.close();
     EXPECT_EQ(Build(folder.path(), seed).find("types.txt: the file is not UTF-8\n"), 0u);
-    EXPECT_EQ(Rows(seed, ".dump"), Rows(SEED_FILE, ".dump"));
+    // Not compared as texts: a difference would print the whole library.
+    EXPECT_TRUE(Rows(seed, ".dump") == Rows(SEED_FILE, ".dump"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), (QStringList{"seed.rsd", "types.txt"}));
 }
 
