@@ -49,6 +49,11 @@ TEST_F(ListboxEditingTest, EachEndOfAnEditIsToldOnceAndARefusalHoldsTheUser) {
         {"focus moved", [this] { window->Many.SetFocus(); }},
         {"other window", [] { ShowActive(Window::Implicit<OtherWindow>()); }},
         {"menu", [this] { VisitFileMenu(); }},
+        {"menu by its letter",
+         [] {
+             Press(Qt::Key_F, Qt::AltModifier);
+             LeaveMenu();
+         }},
         {"another edit", [this] { window->List.EditCell(2, 0); }},
     };
     for (const auto& [name, end] : ends) {

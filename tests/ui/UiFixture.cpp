@@ -65,6 +65,10 @@ void UiTest::VisitFileMenu() {
     const auto* bar = window->Widget()->findChild<QMenuBar*>();
     const QPoint title = bar->mapTo(window->Widget(), bar->actionGeometry(bar->actions().first()).center());
     QTest::mouseClick(Handle(), Qt::LeftButton, Qt::NoModifier, title);
+    LeaveMenu();
+}
+
+void UiTest::LeaveMenu() {
     QCoreApplication::processEvents();
     if (QWidget* menu = QApplication::activePopupWidget(); menu != nullptr) {
         menu->close();

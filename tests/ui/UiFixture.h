@@ -55,6 +55,7 @@ protected:
     void ClickCell(int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Opens the menu with a click and closes it.
     void VisitFileMenu();
+    static void LeaveMenu();
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     static void Type(const char* text);
 

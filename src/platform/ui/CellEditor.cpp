@@ -11,6 +11,12 @@
 #include <QPainter>
 #include <QTimer>
 
+namespace {
+
+constexpr auto endBehindMenu = QEvent::User;
+
+} // namespace
+
 // The field itself. Keys reach the list's CellKeyDown before the field; text that an input method or a dead key
 // composes comes the same way.
 class CellEditor::Line : public QLineEdit {
@@ -39,6 +45,10 @@ protected:
                 keyPressEvent(key);
                 return true;
             }
+        }
+        if (event->type() == endBehindMenu) {
+            owner_.End();
+            return true;
         }
         return QLineEdit::event(event);
     }
@@ -85,6 +95,12 @@ protected:
         const QWidget* popup = QApplication::activePopupWidget();
         const bool ownMenu = event->reason() == Qt::PopupFocusReason && popup != nullptr && popup->parent() == this;
         if (ownMenu) {
+            return;
+        }
+        if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason) {
+            // A menu is only half open here, and a message from the handler would close it under Qt's hands. Still, the
+            // end comes before the menu asks what it can offer.
+            QCoreApplication::postEvent(this, new QEvent(endBehindMenu), Qt::HighEventPriority);
             return;
         }
         const bool byPress = event->reason() == Qt::MouseFocusReason;
@@ -135,6 +151,7 @@ void CellEditor::Begin(int row, int column) {
     line_->setText(model_.Text(row, column));
     FollowCell();
     line_->show();
+    line_->setFocusProxy(nullptr);
     line_->selectAll();
     line_->setFocus(Qt::OtherFocusReason);
 }
@@ -166,6 +183,8 @@ void CellEditor::Abandon() {
         return;
     }
     line_->hide();
+    // A menu that took the focus from the field gives it back to the field.
+    line_->setFocusProxy(&view_);
 }
 
 void CellEditor::FollowCell() {

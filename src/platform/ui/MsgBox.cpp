@@ -39,6 +39,15 @@ const Form& FormOf(int code) {
     return forms[0];
 }
 
+// An open menu would keep the mouse and the keys from the message.
+void CloseMenus() {
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        if (!menu->close()) {
+            return;
+        }
+    }
+}
+
 } // namespace
 
 void MsgBox(const QString& text) {
@@ -47,6 +56,7 @@ void MsgBox(const QString& text) {
 
 int MsgBox(const QString& text, int code, const QString& title) {
     events::UnwindIfQuitting();
+    CloseMenus();
     const Form& form = FormOf(code);
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));
