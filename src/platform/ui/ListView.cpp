@@ -253,7 +253,8 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (SelectedCount() == 0 && !MarksCurrentRow() && model_.rowCount() > 0 &&
-        (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)) {
+        (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up ||
+         (event->key() == Qt::Key_Home && currentIndex().row() <= 0))) {
         // Coming by the keyboard, Qt stands on the first row without selecting it, and would go on to the second.
         SelectOnly(std::max(0, currentIndex().row()));
         scrollTo(currentIndex());
