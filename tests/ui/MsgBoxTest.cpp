@@ -4,6 +4,11 @@
 
 using MsgBoxTest = UiTest;
 
+class Floating : public Window {
+public:
+    Floating() : Window({.name = "Floating", .width = 200, .height = 100, .kind = WindowKind::Floating}) {}
+};
+
 TEST_F(MsgBoxTest, CodeGivesIconButtonsDefaultAndAnswers) {
     struct Case {
         int code;
@@ -37,4 +42,15 @@ TEST_F(MsgBoxTest, WithoutATitleItIsNamedForTheProgram) {
     messages.AnswerNextMessage();
     MsgBox("Text");
     EXPECT_EQ(messages.LastMessage().title, "Pourbook");
+}
+
+// The window system makes a window that was just shown the active one only later.
+TEST_F(MsgBoxTest, StandsOverTheWindowThatIsComingToTheFront) {
+    auto& floating = Window::Implicit<Floating>();
+    floating.Show();
+    messages.DuringNextMessage([&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), floating.Widget());
+        box.accept();
+    });
+    MsgBox("Text");
 }

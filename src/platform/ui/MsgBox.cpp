@@ -1,6 +1,7 @@
 #include "platform/ui/MsgBox.h"
 
 #include "platform/ui/Events.h"
+#include "platform/ui/OpenWindows.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -58,7 +59,7 @@ int MsgBox(const QString& text, int code, const QString& title) {
     events::UnwindIfQuitting();
     CloseMenus();
     const Form& form = FormOf(code);
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(OpenWindows::MessageParent());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setIcon(form.icon);

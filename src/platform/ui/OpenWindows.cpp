@@ -4,8 +4,10 @@
 #include "platform/ui/Window.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 #include <map>
@@ -21,6 +23,11 @@ std::map<std::type_index, std::unique_ptr<Window>>& Open() {
 std::vector<std::unique_ptr<Window>>& Closed() {
     static std::vector<std::unique_ptr<Window>> windows;
     return windows;
+}
+
+QPointer<QWidget>& Coming() {
+    static QPointer<QWidget> window;
+    return window;
 }
 
 Window* OfKind(WindowKind kind) {
@@ -72,6 +79,19 @@ Window* Frontmost() {
     }
     // Without a window manager no window is ever active; one that is alone is in front all the same.
     return active == nullptr && Open().size() == 1 ? Any() : nullptr;
+}
+
+void ComesToFront(Window& window) {
+    Coming() = window.Widget();
+    QObject::connect(
+        qApp, &QGuiApplication::focusWindowChanged, window.Widget(), [] { Coming().clear(); },
+        Qt::SingleShotConnection);
+}
+
+// The focus goes back to this window when the message has been read.
+QWidget* MessageParent() {
+    QWidget* coming = Coming();
+    return coming != nullptr && coming->isVisible() ? coming : QApplication::activeWindow();
 }
 
 Window* Any() {

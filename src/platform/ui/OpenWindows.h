@@ -3,6 +3,7 @@
 #include <memory>
 #include <typeindex>
 
+class QWidget;
 class Window;
 
 // For the layer itself: the implicit windows that are open, at most one of each class.
@@ -20,6 +21,10 @@ void Release(Window& window);
 
 // The window in front, or null.
 [[nodiscard]] Window* Frontmost();
+// The window was asked to the front. The window system brings it there a little later.
+void ComesToFront(Window& window);
+// The widget of the window that a message belongs to: the one that is coming to the front, or is there; or null.
+[[nodiscard]] QWidget* MessageParent();
 // One of the open windows, of any kind or of one, or null when there is none.
 [[nodiscard]] Window* Any();
 [[nodiscard]] Window* Document();

@@ -97,6 +97,7 @@ void Window::Show() {
     state_->frame->show();
     state_->frame->raise();
     state_->frame->activateWindow();
+    OpenWindows::ComesToFront(*this);
     events::UnwindIfQuitting();
 }
 
