@@ -32,12 +32,10 @@ std::vector<DrinkListColumn> ColumnsOf(const App& app) {
 }
 
 // Turns a column on or off. The caption says what the command will do next time.
-void ToggleColumn(App& app, bool App::*option, const char* item, const char* column) {
+void ToggleColumn(App& app, bool App::*option, MenuItem& item, const char* column) {
     app.*option = !(app.*option);
     const QString verb = app.*option ? QStringLiteral("Hide") : QStringLiteral("Show");
-    app.ApplicationMenuBar()
-        .Item(QString::fromLatin1(item))
-        .SetText(QStringLiteral("%1 %2 Column").arg(verb, QString::fromLatin1(column)));
+    item.SetText(QStringLiteral("%1 %2 Column").arg(verb, QString::fromLatin1(column)));
     // The fill has told the user of any failure.
     static_cast<void>(app.FillDrinkList());
 }
@@ -64,17 +62,17 @@ void App::SetupDrinkList() {
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names of the handlers, see App.h
 bool App::_View_RatingsColumn_Action() {
-    ToggleColumn(*this, &App::Option_ViewRatings, "View_RatingsColumn", "Ratings");
+    ToggleColumn(*this, &App::Option_ViewRatings, View_RatingsColumn(), "Ratings");
     return false;
 }
 
 bool App::_View_DrinkTypeColumn_Action() {
-    ToggleColumn(*this, &App::Option_ViewDrinkType, "View_DrinkTypeColumn", "Drink Type");
+    ToggleColumn(*this, &App::Option_ViewDrinkType, View_DrinkTypeColumn(), "Drink Type");
     return false;
 }
 
 bool App::_View_GlassColumn_Action() {
-    ToggleColumn(*this, &App::Option_ViewGlass, "View_GlassColumn", "Glass");
+    ToggleColumn(*this, &App::Option_ViewGlass, View_GlassColumn(), "Glass");
     return false;
 }
 // NOLINTEND(bugprone-reserved-identifier)

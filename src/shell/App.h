@@ -50,6 +50,12 @@ public:
     bool Option_CheckForAppUpdates = false;
     bool Option_ShareRatings = false;
 
+    // The menu items whose captions change.
+    [[nodiscard]] MenuItem& View_RatingsColumn() const;
+    [[nodiscard]] MenuItem& View_DrinkTypeColumn() const;
+    [[nodiscard]] MenuItem& View_GlassColumn() const;
+    [[nodiscard]] MenuItem& Window_Zoom() const;
+
     // The operations. Handlers of menu items carry their item's name after an underscore.
     // NOLINTBEGIN(bugprone-reserved-identifier)
 

@@ -111,7 +111,7 @@ void App::InitApp() {
     db.Close();
 
     if (!OnMac) {
-        ApplicationMenuBar().Item(QStringLiteral("Window_Zoom")).SetText(QStringLiteral("Maximize"));
+        Window_Zoom().SetText(QStringLiteral("Maximize"));
     }
     DecodeOptions();
 

@@ -48,6 +48,22 @@ const std::vector<MenuRow> rows = {
 
 MenuBar1::MenuBar1() : MenuBar(menus, rows) {}
 
+MenuItem& App::View_RatingsColumn() const {
+    return ApplicationMenuBar().Item(QStringLiteral("View_RatingsColumn"));
+}
+
+MenuItem& App::View_DrinkTypeColumn() const {
+    return ApplicationMenuBar().Item(QStringLiteral("View_DrinkTypeColumn"));
+}
+
+MenuItem& App::View_GlassColumn() const {
+    return ApplicationMenuBar().Item(QStringLiteral("View_GlassColumn"));
+}
+
+MenuItem& App::Window_Zoom() const {
+    return ApplicationMenuBar().Item(QStringLiteral("Window_Zoom"));
+}
+
 // NOLINTBEGIN(bugprone-reserved-identifier): the names of the handlers, see App.h
 void App::_ApplicationAddMenuHandlers() {
     const auto bind = [this](const char* item, bool (App::*handler)()) {

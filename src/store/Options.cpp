@@ -9,18 +9,19 @@ namespace {
 struct Option {
     QString code;
     bool App::*flag;
-    // What the menu item of a column says while the column shows; empty for an option that has no item.
-    const char* item;
+    // What the menu item of a column says while the column shows; null for an option that has no item.
+    MenuItem& (App::*item)() const;
     const char* caption;
 };
 
 std::vector<Option> Options(const App& app) {
     return {
-        {app.OptionCode_ViewRatings, &App::Option_ViewRatings, "View_RatingsColumn", "Hide Ratings Column"},
-        {app.OptionCode_ViewGlass, &App::Option_ViewGlass, "View_GlassColumn", "Hide Glass Column"},
-        {app.OptionCode_ViewDrinkType, &App::Option_ViewDrinkType, "View_DrinkTypeColumn", "Hide Drink Type Column"},
-        {app.OptionCode_CheckForAppUpdates, &App::Option_CheckForAppUpdates, "", ""},
-        {app.OptionCode_ShareRatings, &App::Option_ShareRatings, "", ""},
+        {app.OptionCode_ViewRatings, &App::Option_ViewRatings, &App::View_RatingsColumn, "Hide Ratings Column"},
+        {app.OptionCode_ViewGlass, &App::Option_ViewGlass, &App::View_GlassColumn, "Hide Glass Column"},
+        {app.OptionCode_ViewDrinkType, &App::Option_ViewDrinkType, &App::View_DrinkTypeColumn,
+         "Hide Drink Type Column"},
+        {app.OptionCode_CheckForAppUpdates, &App::Option_CheckForAppUpdates, nullptr, ""},
+        {app.OptionCode_ShareRatings, &App::Option_ShareRatings, nullptr, ""},
     };
 }
 
@@ -32,8 +33,8 @@ void App::DecodeOptions() {
             continue;
         }
         this->*option.flag = true;
-        if (option.item[0] != '\0') {
-            ApplicationMenuBar().Item(QString::fromLatin1(option.item)).SetText(QString::fromLatin1(option.caption));
+        if (option.item != nullptr) {
+            (this->*option.item)().SetText(QString::fromLatin1(option.caption));
         }
     }
 }
