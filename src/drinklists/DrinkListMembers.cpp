@@ -8,7 +8,7 @@ bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
         return false;
     }
     RecordSet members = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = ") +
-                                           CStr(DrinkListID) + QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
+                                     CStr(DrinkListID) + QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
     if (db.Error()) {
         MsgBox(QStringLiteral("An error occurred attempting to query drinklists: ") + db.ErrorMessage());
         return false;

@@ -23,7 +23,7 @@ constexpr StaticTextLook caption = {.textFont = "Arial", .textSize = 13, .bold =
 
 struct DressedText {
     StaticText& text;
-    const char* words;
+    const char* words = "";
     StaticTextLook look;
 };
 

@@ -4,8 +4,8 @@
 #include "platform/ui/Application.h"
 
 QString VersionText(const ApplicationVersion& version) {
-    const QString numbers = QStringLiteral("Version ") + CStr(version.major) + QLatin1Char('.') + CStr(version.minor) +
-                            QLatin1Char('.') + CStr(version.bug);
+    QString numbers = QStringLiteral("Version ") + CStr(version.major) + QLatin1Char('.') + CStr(version.minor) +
+                      QLatin1Char('.') + CStr(version.bug);
     switch (version.stage) {
         case 0:
             return numbers + QStringLiteral(" In Development");
