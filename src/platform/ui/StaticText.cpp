@@ -26,7 +26,7 @@ public:
         if (wordWrap() && !Fits()) {
             SetStretch(QFont::Unstretched);
         }
-        setContentsMargins(0, 0, 0, wordWrap() ? height() % fontMetrics().lineSpacing() : 0);
+        setContentsMargins(0, 0, 0, wordWrap() && !Fits() ? height() % LineHeight() : 0);
     }
 
 protected:
@@ -74,8 +74,16 @@ private:
     }
 
     [[nodiscard]] bool Fits() const {
-        return wordWrap() ? fontMetrics().boundingRect(0, 0, width(), 0, Qt::TextWordWrap, text()).height() <= height()
-                          : fontMetrics().horizontalAdvance(text()) <= width();
+        return wordWrap() ? WrappedHeight(text()) <= height() : fontMetrics().horizontalAdvance(text()) <= width();
+    }
+
+    [[nodiscard]] int WrappedHeight(const QString& words) const {
+        return fontMetrics().boundingRect(0, 0, width(), 0, Qt::TextWordWrap, words).height();
+    }
+
+    // From one line to the next. Each begins at a whole pixel, which the metrics' own line spacing leaves out.
+    [[nodiscard]] int LineHeight() const {
+        return WrappedHeight(QStringLiteral("|\n|")) - WrappedHeight(QStringLiteral("|"));
     }
 
     void Press(const QPoint& place) { events::Raise(owner_.MouseDown, place.x(), place.y()); }
