@@ -3,6 +3,7 @@
 import datetime
 import http.server
 import os
+import socket
 import threading
 
 import Desktop
@@ -28,6 +29,17 @@ def PutBrowser(folder):
     return page
 
 
+def QuitWhileTheSiteIsSilent(desktop):
+    """The user's keys count during the wait, not only once the mouse moves."""
+    with socket.create_server(("127.0.0.1", 0)) as silent:
+        home = Home(desktop, "silent")
+        pourbook = Pourbook(desktop, home, os.environ["POURBOOK_AT"], f"127.0.0.1:{silent.getsockname()[1]}")
+        pourbook.WaitForWindow()
+        Desktop.Key("ctrl+q")
+        pourbook.ExpectEnd()
+        ExpectEqual(home.library.Run("SELECT LastUpdateCheck IS NULL FROM Setup"), ["1"], "no day of a check")
+
+
 with Desktop.Desktop() as desktop:
     page = PutBrowser(desktop.folder.name)
     server = http.server.HTTPServer(("127.0.0.1", 0), VersionFile)
@@ -48,3 +60,5 @@ with Desktop.Desktop() as desktop:
     WaitUntilEqual(lambda: open(page).read(), f"http://{site}/download.html", "page in the browser")
     WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), TITLE, "window in front")
     pourbook.Close()
+
+    QuitWhileTheSiteIsSilent(desktop)

@@ -5,6 +5,7 @@
 #include "platform/ui/OpenWindows.h"
 #include "platform/ui/Style.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
@@ -90,7 +91,9 @@ const std::function<bool()>* Application::MenuHandler(const QString& itemName) c
     return found == menuHandlers_.end() ? nullptr : &found->second;
 }
 
+// Input that a loop without input has put aside does not wake the next loop by itself: a key would wait for the mouse.
 void Application::DoEvents() {
+    QAbstractEventDispatcher::instance()->wakeUp();
     QCoreApplication::processEvents();
     events::UnwindIfQuitting();
 }
