@@ -6,9 +6,28 @@
 #include "platform/ui/OpenWindows.h"
 #include "platform/ui/WindowFrame.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QMenuBar>
+#include <QThread>
+#include <QWindow>
 
 #include <vector>
+
+namespace {
+
+// A window system that never answers, or keeps the window out of sight, must not keep the task waiting.
+constexpr int longestWaitForScreen = 300; // milliseconds
+
+void WaitUntilOnScreen(const QWidget& frame) {
+    const QDeadlineTimer limit(longestWaitForScreen);
+    while (!frame.windowHandle()->isExposed() && !limit.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(1);
+    }
+}
+
+} // namespace
 
 struct Window::State {
     WindowProperties properties;
@@ -98,6 +117,10 @@ void Window::Show() {
     state_->frame->raise();
     state_->frame->activateWindow();
     OpenWindows::ComesToFront(*this);
+    // The task that a dialog stands for may let no event through for long.
+    if (Kind() == WindowKind::Dialog) {
+        WaitUntilOnScreen(*state_->frame);
+    }
     events::UnwindIfQuitting();
 }
 

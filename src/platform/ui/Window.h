@@ -71,7 +71,7 @@ public:
     // A document window shows the menu bar; a floating one has its shortcuts.
     void SetMenuBar(MenuBar& menuBar);
 
-    // Shows the window or brings it to the front.
+    // Shows the window or brings it to the front. A dialog is drawn when this returns.
     void Show();
     void Minimize();
     void Maximize();
