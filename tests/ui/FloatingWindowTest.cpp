@@ -45,6 +45,6 @@ TEST_F(FloatingWindowTest, StaysAboveTheDocumentTakesItsShortcutsAndGoesBeforeIt
     EXPECT_FALSE(Runtime::HasQuit());
     Window::Implicit<FloatingWindow>().CloseEvent = [this] { log << "second closed"; };
     window->Widget()->close();
-    EXPECT_EQ(TakeLog(), QStringList({"floating closed", "document closed"}));
+    EXPECT_EQ(TakeLog(), QStringList({"floating closed", "second closed", "document closed"}));
     EXPECT_TRUE(Runtime::HasQuit());
 }

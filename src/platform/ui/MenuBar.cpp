@@ -100,12 +100,8 @@ bool CanRun(const QString& name, MenuItemKind kind) {
     }
 }
 
-// Quitting closes the windows, so that each one's CloseEvent comes, as if the user had closed them; what stands in a
-// floating window counts before the document window writes it down.
+// Quitting closes the windows, so that each one's CloseEvent comes, as if the user had closed them.
 void CloseAllWindows() {
-    while (Window* window = OpenWindows::Floating()) {
-        window->Close();
-    }
     while (Window* window = OpenWindows::Any()) {
         window->Close();
     }

@@ -164,6 +164,10 @@ void Window::OnClosed() {
         return;
     }
     state_->closed = true;
+    // What stands in a floating window counts before the document window writes it down.
+    while (Window* floating = Kind() == WindowKind::Document ? OpenWindows::Floating() : nullptr) {
+        floating->state_->frame->close();
+    }
     events::Raise(CloseEvent);
     OpenWindows::Release(*this);
 }

@@ -50,7 +50,8 @@ public:
 
     // Raised once when the instance was created.
     std::function<void()> OpenEvent;
-    // Raised once when the window is closed by the user or by Close, after an edit in a cell has ended.
+    // Raised once when the window is closed by the user or by Close, after an edit in a cell has ended. A document
+    // window closes the floating windows first.
     std::function<void()> CloseEvent;
     // Raised before a menu shows or a shortcut is taken while this window is in front.
     std::function<void()> EnableMenuItems;
