@@ -42,6 +42,8 @@ class Pourbook:
     def WaitForWindow(self):
         WaitFor(lambda: self.Drinks().Count() > 0, "the main window with drinks")
         self.WaitForKeyboard()
+        # During an upgrade another window of the program has the keyboard.
+        WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), TITLE, "window with the keyboard")
         return self
 
     def WaitForKeyboard(self):
