@@ -1,13 +1,15 @@
 #include "shell/App.h"
 
+#include <utility>
+
 namespace {
 
 const QString appName = QStringLiteral("Tipplewise Pourbook");
 
 } // namespace
 
-App::App(const QString& vendorSite)
-    : Application(appName, POURBOOK_VERSION), DrinkAppName(appName), VendorSite(vendorSite) {
+App::App(QString vendorSite)
+    : Application(appName, POURBOOK_VERSION), DrinkAppName(appName), VendorSite(std::move(vendorSite)) {
     Open = [this] { Event_Open(); };
     Activate = [this] { Event_Activate(); };
 }

@@ -15,7 +15,7 @@ class InternetHeaders;
 class App : public Application {
 public:
     // The site is fixed at build time. Without one nothing is ever fetched.
-    explicit App(const QString& vendorSite = {});
+    explicit App(QString vendorSite = {});
 
     // The one application object.
     static App& Instance();
