@@ -1,8 +1,8 @@
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "platform/ui/Picture.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -12,11 +12,9 @@ bool ChangeStatus(App& app, const QString& statement) {
         return false;
     }
     db.SQLExecute(statement);
-    if (db.Error()) {
-        MsgBox(QStringLiteral("An error occurred changing the ingredient status: ") + db.ErrorMessage());
-    }
+    const bool changed = Succeeded(db, QStringLiteral("An error occurred changing the ingredient status: "));
     db.Close();
-    return !db.Error();
+    return changed;
 }
 
 } // namespace

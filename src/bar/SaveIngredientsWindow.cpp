@@ -1,17 +1,14 @@
 #include "bar/Ingredients.h"
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
+#include "store/Succeeded.h"
 
 namespace {
 
 // False: the user was told, in these words.
 bool Execute(REALSQLDatabase& db, const QString& statement, const QString& words) {
     db.SQLExecute(statement);
-    if (db.Error()) {
-        MsgBox(words + db.ErrorMessage());
-    }
-    return !db.Error();
+    return Succeeded(db, words);
 }
 
 bool SaveRow(REALSQLDatabase& db, const Listbox& list, int row) {

@@ -2,6 +2,7 @@
 #include "platform/ui/MsgBox.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -11,10 +12,7 @@ constexpr int yes = 6;
 // Runs one statement of a sequence in which each stands once it ran. False: the user was told.
 bool Run(REALSQLDatabase& db, const QString& statement, const QString& failure) {
     db.SQLExecute(statement);
-    if (db.Error()) {
-        MsgBox(failure + db.ErrorMessage());
-    }
-    return !db.Error();
+    return Succeeded(db, failure);
 }
 
 // Whoever made the ingredient, and also when it is at home: what no recipe names any more goes.

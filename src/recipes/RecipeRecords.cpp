@@ -1,8 +1,8 @@
 #include "recipes/RecipeRecords.h"
 
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "recipes/RecipeGrid.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -55,13 +55,6 @@ bool FindUnit(REALSQLDatabase& db, const QString& unit, int& UofMID) {
 }
 
 } // namespace
-
-bool Succeeded(const REALSQLDatabase& db, const QString& failure) {
-    if (db.Error()) {
-        MsgBox(failure + db.ErrorMessage());
-    }
-    return !db.Error();
-}
 
 bool InsertDrink(REALSQLDatabase& db, const NewRecipe& window, const QString& name, const QStringList& ingredients) {
     DatabaseRecord drink;

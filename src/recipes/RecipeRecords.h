@@ -11,9 +11,6 @@
 //
 // A result of false means that it failed and the user was told.
 
-// Whether the last statement, or the commit after it, went well. The failure's text comes before the database's words.
-[[nodiscard]] bool Succeeded(const REALSQLDatabase& db, const QString& failure);
-
 [[nodiscard]] bool InsertDrink(REALSQLDatabase& db, const NewRecipe& window, const QString& name,
                                const QStringList& ingredients);
 

@@ -5,6 +5,7 @@
 #include "recipes/RecipeRecords.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 #include <QStringList>
 
