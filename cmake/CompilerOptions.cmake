@@ -14,3 +14,19 @@ if(POURBOOK_SANITIZE)
 endif()
 
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# What makes a fault harder to exploit, in what people run. tests/package looks whether the linked program has it.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+if(CMAKE_BUILD_TYPE STREQUAL Release)
+    add_compile_options(
+        -fstack-protector-strong -fstack-clash-protection
+        -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS)
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
+        add_compile_options(-fcf-protection)
+    endif()
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
+
+    # The same sources give the same program, wherever they stand.
+    add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+endif()
