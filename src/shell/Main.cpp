@@ -6,6 +6,7 @@
 
 int main(int argc, char** argv) {
     Runtime runtime(argc, argv);
+    runtime.SetDesktopEntry(QStringLiteral(POURBOOK_APPLICATION_ID));
     PreparePictures();
     runtime.SetIcon({NamedPicture(QStringLiteral("pourbook_16")), NamedPicture(QStringLiteral("pourbook_32")),
                      NamedPicture(QStringLiteral("pourbook"))});

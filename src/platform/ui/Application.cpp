@@ -119,6 +119,10 @@ Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, 
 
 Runtime::~Runtime() = default;
 
+void Runtime::SetDesktopEntry(const QString& name) {
+    QApplication::setDesktopFileName(name);
+}
+
 void Runtime::SetIcon(const std::vector<const Picture*>& drawings) {
     QApplication::setWindowIcon(IconOf(drawings));
 }

@@ -74,6 +74,10 @@ public:
     Runtime(const Runtime&) = delete;
     Runtime& operator=(const Runtime&) = delete;
 
+    // The name of the program's desktop entry, without ".desktop". A Wayland desktop knows by it which entry and icon
+    // belong to a window. To be set before the first window is made.
+    void SetDesktopEntry(const QString& name);
+
     // The icon that the desktop shows for the program's windows: at least one drawing, the smallest first. Small sizes
     // need less detail, so each size takes the last drawing that is not larger than it.
     void SetIcon(const std::vector<const Picture*>& drawings);
