@@ -9,7 +9,7 @@ if [[ ${CI:-} == true ]]; then
     options+=(POURBOOK_WERROR=ON)
 fi
 
-InstallPackages build run screen test
+InstallPackages build run screen test package
 Configure release "${options[@]}" POURBOOK_BENCH=ON
 Configure sanitize "${options[@]}"
 Build release
