@@ -2,6 +2,7 @@
 
 #include "platform/base/Exceptions.h"
 #include "platform/database/Database.h"
+#include "seed/RepeatableRandom.h"
 #include "seed/SeedStatements.h"
 
 #include <QFile>
@@ -19,6 +20,10 @@ void Execute(REALSQLDatabase& database, const QString& statement) {
 }
 
 void WriteDatabase(const Library& library, const QString& path) {
+    const QStringList statements = SchemaStatements() + RowStatements(library);
+    if (!DrawRandomFrom(statements.join(u'\n').toUtf8())) {
+        throw RuntimeException(QStringLiteral("the file would differ from build to build"));
+    }
     REALSQLDatabase database;
     database.SetDatabaseFile(FolderItem(path));
     database.SetEncryptionKey(QStringLiteral("MerryMead246"));
@@ -26,7 +31,7 @@ void WriteDatabase(const Library& library, const QString& path) {
         throw RuntimeException(database.ErrorMessage());
     }
     Execute(database, QStringLiteral("BEGIN"));
-    for (const QString& statement : SchemaStatements() + RowStatements(library)) {
+    for (const QString& statement : statements) {
         Execute(database, statement);
     }
     Execute(database, QStringLiteral("COMMIT"));
