@@ -16,10 +16,6 @@ FolderItem WorkingDatabase(bool onMac, const QString& appName) {
     return UserFolder(onMac, appName).Child(DatabaseName());
 }
 
-QString DatabaseKey() {
-    return QStringLiteral("MerryMead246");
-}
-
 QString DatabaseName() {
     return QStringLiteral("drinkdb.rsd");
 }

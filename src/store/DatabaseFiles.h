@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/files/FolderItem.h"
+#include "store/LibraryKey.h"
 
 #include <QString>
 
@@ -11,9 +12,6 @@
 [[nodiscard]] FolderItem SeedDatabase(bool onMac);
 [[nodiscard]] FolderItem UserFolder(bool onMac, const QString& appName);
 [[nodiscard]] FolderItem WorkingDatabase(bool onMac, const QString& appName);
-
-// The key that seed and working file are encrypted with.
-[[nodiscard]] QString DatabaseKey();
 
 // The one name of seed and working file.
 [[nodiscard]] QString DatabaseName();

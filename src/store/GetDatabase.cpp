@@ -8,6 +8,7 @@ bool App::GetDatabase(REALSQLDatabase& db) {
     } else {
         db.SetDatabaseFile(WorkingDatabase(OnMac, DrinkAppName));
         db.SetEncryptionKey(DatabaseKey());
+        db.SetDerivedKey(LibraryKey());
     }
     if (!db.Connect()) {
         MsgBox(QStringLiteral("Could not open database.  ") + db.ErrorMessage());

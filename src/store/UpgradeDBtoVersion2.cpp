@@ -41,6 +41,7 @@ FolderItem ReplaceBySeed(const FolderItem& seed, const FolderItem& folder) {
 void ConnectTo(REALSQLDatabase& db, const FolderItem& file, const char* words) {
     db.SetDatabaseFile(file);
     db.SetEncryptionKey(DatabaseKey());
+    db.SetDerivedKey(LibraryKey());
     if (!db.Connect()) {
         MsgBox(QString::fromLatin1(words) + db.ErrorMessage());
         Quit(0);

@@ -1,6 +1,7 @@
 // The seed that the build made, looked at from outside in the ordinary sqlcipher shell, and the program that makes it.
 #include "browser/GlassPicture.h"
 #include "browser/QuantityText.h"
+#include "store/LibraryKey.h"
 
 #include <QDir>
 #include <QProcess>
@@ -119,6 +120,8 @@ TEST(SeedBuild, SameTextGivesSameBytesAndFaultyTextKeepsTheOldSeed) {
     EXPECT_EQ(Build(folder.path(), seed).find("types.txt: the file is not UTF-8\n"), 0u);
     // Not compared by EXPECT_EQ: a difference would print the whole file.
     EXPECT_TRUE(Bytes(seed) == Bytes(SEED_FILE));
+    // With another salt every start would derive the key.
+    EXPECT_EQ(Bytes(SEED_FILE).left(16), LibraryKey().salt);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), (QStringList{"seed.rsd", "types.txt"}));
 }
 

@@ -58,6 +58,14 @@ TEST_F(DatabaseTest, OneObjectConnectsAgainToReplacedFile) {
     EXPECT_EQ(DrinkCount(database_), QString("2"));
 }
 
+// The foreign key shows which of the two a connect goes by.
+TEST_F(DatabaseTest, DerivedKeyCountsForItsSaltAlone) {
+    database_.SetDerivedKey({Bytes(Path()).left(16), QByteArray(32, 'k')});
+    EXPECT_FALSE(database_.Connect());
+    database_.SetDerivedKey({QByteArray(16, 's'), QByteArray(32, 'k')});
+    EXPECT_TRUE(database_.Connect()) << database_.ErrorMessage().toStdString();
+}
+
 TEST_F(DatabaseTest, OverlappingConnectionsDoNotLockEachOther) {
     REALSQLDatabase second;
     Open(second);

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-// Makes the engine draw its salt and the vectors of its pages from `text` instead of the system's randomness, so that
+// Makes the engine draw the vectors of its pages from `text` instead of the system's randomness, so that
 // the same text gives the same file, byte for byte. It holds for the rest of this process, up to some 80,000 pages
 // written; beyond that writing fails. False when OpenSSL refuses, or has already given random bytes.
 //

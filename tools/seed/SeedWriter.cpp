@@ -4,6 +4,7 @@
 #include "platform/database/Database.h"
 #include "seed/RepeatableRandom.h"
 #include "seed/SeedStatements.h"
+#include "store/LibraryKey.h"
 
 #include <QFile>
 
@@ -26,7 +27,8 @@ void WriteDatabase(const Library& library, const QString& path) {
     }
     REALSQLDatabase database;
     database.SetDatabaseFile(FolderItem(path));
-    database.SetEncryptionKey(QStringLiteral("MerryMead246"));
+    database.SetEncryptionKey(DatabaseKey());
+    database.SetDerivedKey(LibraryKey());
     if (!database.CreateDatabaseFile()) {
         throw RuntimeException(database.ErrorMessage());
     }

@@ -72,14 +72,14 @@ Connection::Connection(const QString& path) {
     journal_ = std::make_unique<BurstJournal>(engine, BusyMilliseconds);
 }
 
-std::unique_ptr<Connection> Connection::ToFile(const QString& path, const QString& key) {
+std::unique_ptr<Connection> Connection::ToFile(const QString& path, const QString& key, const DerivedKey& derived) {
     std::unique_ptr<Connection> connection(new Connection(path));
     // To the engine an empty file is a database that has no tables yet.
     if (QFileInfo(path).size() == 0) {
         throw EngineFailure(SQLITE_NOTADB);
     }
     if (!key.isEmpty()) {
-        connection->SetKey(RawKey(path, key));
+        connection->SetKey(RawKey(path, key, derived));
     }
     // A list of 100,000 drinks is read in the order of their names, which jumps about in the file. Without room for the
     // pages each would be decrypted many times over. The memory, in KiB, is taken only as pages are read.
@@ -89,13 +89,13 @@ std::unique_ptr<Connection> Connection::ToFile(const QString& path, const QStrin
     return connection;
 }
 
-std::unique_ptr<Connection> Connection::ToNewFile(const QString& path, const QString& key) {
+std::unique_ptr<Connection> Connection::ToNewFile(const QString& path, const QString& key, const DerivedKey& derived) {
     const QByteArray encoded = QFile::encodeName(path);
     MakeEmptyFile(encoded);
     try {
         std::unique_ptr<Connection> connection(new Connection(path));
         if (!key.isEmpty()) {
-            connection->SetKey(key.toUtf8());
+            connection->SetKey(derived.salt.isEmpty() ? key.toUtf8() : RawKey(derived));
         }
         // An empty transaction writes the first page.
         Statement(connection->engine_.get(), "BEGIN IMMEDIATE").Run();

@@ -2,6 +2,7 @@
 
 #include "platform/database/BurstJournal.h"
 #include "platform/database/DatabaseRecord.h"
+#include "platform/database/DerivedKey.h"
 #include "platform/database/RecordSet.h"
 
 #include <QString>
@@ -15,10 +16,10 @@ struct sqlite3;
 class Connection {
 public:
     // Opens an existing file, and reads enough of it to know that it is a database and that the key fits.
-    static std::unique_ptr<Connection> ToFile(const QString& path, const QString& key);
+    static std::unique_ptr<Connection> ToFile(const QString& path, const QString& key, const DerivedKey& derived);
 
     // Makes a new file; fails when it exists.
-    static std::unique_ptr<Connection> ToNewFile(const QString& path, const QString& key);
+    static std::unique_ptr<Connection> ToNewFile(const QString& path, const QString& key, const DerivedKey& derived);
 
     RecordSet Select(const QString& statement);
     void Execute(const QString& statement);

@@ -14,16 +14,20 @@ void REALSQLDatabase::SetEncryptionKey(const QString& key) {
     key_ = key;
 }
 
+void REALSQLDatabase::SetDerivedKey(const DerivedKey& derived) {
+    derivedKey_ = derived;
+}
+
 bool REALSQLDatabase::Connect() {
     Close();
     const QString path = file_.AbsolutePath();
-    return Attempt([&] { connection_ = Connection::ToFile(path, key_); });
+    return Attempt([&] { connection_ = Connection::ToFile(path, key_, derivedKey_); });
 }
 
 bool REALSQLDatabase::CreateDatabaseFile() {
     Close();
     const QString path = file_.AbsolutePath();
-    return Attempt([&] { connection_ = Connection::ToNewFile(path, key_); });
+    return Attempt([&] { connection_ = Connection::ToNewFile(path, key_, derivedKey_); });
 }
 
 RecordSet REALSQLDatabase::SQLSelect(const QString& statement) {

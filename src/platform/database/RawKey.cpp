@@ -42,13 +42,20 @@ QByteArray Derive(const QByteArray& passphrase, const QByteArray& salt) {
 
 } // namespace
 
-QByteArray RawKey(const QString& path, const QString& passphrase) {
+QByteArray RawKey(const QString& path, const QString& passphrase, const DerivedKey& known) {
     // All database work is done on the one thread of the program.
     static std::map<std::pair<QByteArray, QByteArray>, QByteArray> derivedKeys;
     const std::pair source(passphrase.toUtf8(), ReadSalt(path));
-    auto known = derivedKeys.find(source);
-    if (known == derivedKeys.end()) {
-        known = derivedKeys.emplace(source, Derive(source.first, source.second)).first;
+    if (source.second == known.salt) {
+        return RawKey(known);
     }
-    return "x'" + known->second.toHex() + source.second.toHex() + '\'';
+    auto derived = derivedKeys.find(source);
+    if (derived == derivedKeys.end()) {
+        derived = derivedKeys.emplace(source, Derive(source.first, source.second)).first;
+    }
+    return RawKey({source.second, derived->second});
+}
+
+QByteArray RawKey(const DerivedKey& derived) {
+    return "x'" + derived.key.toHex() + derived.salt.toHex() + '\'';
 }
