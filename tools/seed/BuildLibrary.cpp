@@ -5,7 +5,9 @@
 // Exit status 0: the file is written. 1: the text has errors (all are listed) or the file cannot be written.
 // 2: the command line is wrong.
 #include "library/LibraryText.h"
+#include "seed/RepeatableRandom.h"
 #include "seed/SeedReport.h"
+#include "seed/SeedStatements.h"
 #include "seed/SeedWriter.h"
 
 #include <QFile>
@@ -29,6 +31,12 @@ int Build(const QString& folder, const QString& output, const QString& reportFil
         Complain(error.Text());
     }
     if (!reading.errors.isEmpty()) {
+        return 1;
+    }
+    // The package has to be the same from build to build, and the seed is in it.
+    const QStringList text = SchemaStatements() + RowStatements(reading.library);
+    if (!DrawRandomFrom(text.join(u'\n').toUtf8())) {
+        Complain(output + QStringLiteral(": the file would differ from build to build"));
         return 1;
     }
     QString problem;

@@ -2,7 +2,6 @@
 
 #include "platform/base/Exceptions.h"
 #include "platform/database/Database.h"
-#include "seed/RepeatableRandom.h"
 #include "seed/SeedStatements.h"
 #include "store/LibraryKey.h"
 
@@ -21,10 +20,6 @@ void Execute(REALSQLDatabase& database, const QString& statement) {
 }
 
 void WriteDatabase(const Library& library, const QString& path) {
-    const QStringList statements = SchemaStatements() + RowStatements(library);
-    if (!DrawRandomFrom(statements.join(u'\n').toUtf8())) {
-        throw RuntimeException(QStringLiteral("the file would differ from build to build"));
-    }
     REALSQLDatabase database;
     database.SetDatabaseFile(FolderItem(path));
     database.SetEncryptionKey(DatabaseKey());
@@ -33,7 +28,7 @@ void WriteDatabase(const Library& library, const QString& path) {
         throw RuntimeException(database.ErrorMessage());
     }
     Execute(database, QStringLiteral("BEGIN"));
-    for (const QString& statement : statements) {
+    for (const QString& statement : SchemaStatements() + RowStatements(library)) {
         Execute(database, statement);
     }
     Execute(database, QStringLiteral("COMMIT"));
