@@ -20,7 +20,7 @@ BareDatabase::BareDatabase(const QString& path) {
     if (code != SQLITE_OK) {
         Fail();
     }
-    Walk(QStringLiteral("PRAGMA key = \"%1\"").arg(QString::fromLatin1(RawKey(path, DatabaseKey()))));
+    Walk(QStringLiteral("PRAGMA key = \"%1\"").arg(QString::fromLatin1(RawKey(engine, DatabaseKey()))));
     Walk(QStringLiteral("PRAGMA cipher_compatibility = 3"));
     // The program's connections have room for as much.
     Walk(QStringLiteral("PRAGMA cache_size = -65536"));

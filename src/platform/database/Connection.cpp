@@ -79,7 +79,7 @@ std::unique_ptr<Connection> Connection::ToFile(const QString& path, const QStrin
         throw EngineFailure(SQLITE_NOTADB);
     }
     if (!key.isEmpty()) {
-        connection->SetKey(RawKey(path, key, derived));
+        connection->SetKey(RawKey(connection->engine_.get(), key, derived));
     }
     // A list of 100,000 drinks is read in the order of their names, which jumps about in the file. Without room for the
     // pages each would be decrypted many times over. The memory, in KiB, is taken only as pages are read.

@@ -2,8 +2,6 @@
 
 #include "platform/database/EngineFailure.h"
 
-#include <QFile>
-
 #include <openssl/evp.h>
 #include <sqlite3.h>
 
@@ -18,14 +16,18 @@ constexpr int Rounds = 64000;
 constexpr int SaltLength = 16;
 constexpr int KeyLength = 32;
 
-QByteArray ReadSalt(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw EngineFailure(SQLITE_CANTOPEN);
+// Through the engine's own handle: the system takes away all locks that a process has on a file as soon as the process
+// closes any handle of it, also those of a connection that is open at the time.
+QByteArray ReadSalt(sqlite3* engine) {
+    sqlite3_file* file = nullptr;
+    const int code = sqlite3_file_control(engine, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    if (code != SQLITE_OK) {
+        throw EngineFailure(code);
     }
-    QByteArray salt = file.read(SaltLength);
-    if (salt.size() != SaltLength) {
-        throw EngineFailure(SQLITE_NOTADB);
+    QByteArray salt(SaltLength, '\0');
+    const int read = file->pMethods->xRead(file, salt.data(), SaltLength, 0);
+    if (read != SQLITE_OK) {
+        throw EngineFailure(read == SQLITE_IOERR_SHORT_READ ? SQLITE_NOTADB : read);
     }
     return salt;
 }
@@ -42,10 +44,10 @@ QByteArray Derive(const QByteArray& passphrase, const QByteArray& salt) {
 
 } // namespace
 
-QByteArray RawKey(const QString& path, const QString& passphrase, const DerivedKey& known) {
+QByteArray RawKey(sqlite3* engine, const QString& passphrase, const DerivedKey& known) {
     // All database work is done on the one thread of the program.
     static std::map<std::pair<QByteArray, QByteArray>, QByteArray> derivedKeys;
-    const std::pair source(passphrase.toUtf8(), ReadSalt(path));
+    const std::pair source(passphrase.toUtf8(), ReadSalt(engine));
     if (source.second == known.salt) {
         return RawKey(known);
     }
