@@ -24,6 +24,17 @@ void RemoveSelectedDrinksFrom(int drinkListID, const Listbox& drinks, Listbox& l
     }
 }
 
+// The refill puts the lists in order, and another copy of the program may have changed them, so the list may have moved
+// or be gone. Then all drinks stay chosen, as after any refill.
+void ChooseList(Listbox& lists, int drinkListID) {
+    for (int row = 0; row < lists.ListCount(); ++row) {
+        if (lists.CellTag(row, 0) == drinkListID) {
+            lists.SetListIndex(row);
+            return;
+        }
+    }
+}
+
 } // namespace
 
 // Both delete keys are one command. From a user's drinklist it takes the selected drinks out; from the list of all
@@ -49,7 +60,7 @@ bool MainWindow::DrinkList_KeyDown(const QString& key) {
         static_cast<void>(app.DeleteSelectedDrinks());
     }
     if (app.FillDrinkList() && app.FillDrinkListsList()) {
-        DrinkListsList.SetListIndex(shownList);
+        ChooseList(DrinkListsList, drinkListID);
     }
     return false;
 }
