@@ -17,12 +17,16 @@ bool Run(REALSQLDatabase& db, const QString& statement, const QString& failure) 
 
 // Whoever made the ingredient, and also when it is at home: what no recipe names any more goes.
 bool RemoveUnusedIngredients(REALSQLDatabase& db, RecordSet& recipe) {
+    const QString failure = QStringLiteral("An error occurred removing the ingredients no longer used: ");
     for (; !recipe.Eof(); recipe.MoveNext()) {
         const QString ingredient = recipe.Field("IngredientID").StringValue();
         RecordSet users =
             db.SQLSelect(QStringLiteral("SELECT DrinkID FROM DrinkRecipes WHERE IngredientID = ") + ingredient);
-        if (users.Eof() && !Run(db, QStringLiteral("DELETE FROM Ingredients WHERE IngredientID = ") + ingredient,
-                                QStringLiteral("An error occurred removing the ingredients no longer used: "))) {
+        if (!Succeeded(db, failure)) {
+            return false;
+        }
+        if (users.Eof() &&
+            !Run(db, QStringLiteral("DELETE FROM Ingredients WHERE IngredientID = ") + ingredient, failure)) {
             return false;
         }
         users.Close();
@@ -41,8 +45,9 @@ bool App::DeleteDrink(int DrinkID) {
     const QString id = CStr(DrinkID);
     // Read first: the next statement removes what it reads.
     RecordSet recipe = db.SQLSelect(QStringLiteral("SELECT IngredientID FROM DrinkRecipes WHERE DrinkID = ") + id);
-    return Run(db, QStringLiteral("DELETE FROM DrinkRecipes WHERE DrinkID = ") + id,
-               QStringLiteral("An error occurred removing drink recipe steps: ")) &&
+    const QString failure = QStringLiteral("An error occurred removing drink recipe steps: ");
+    return Succeeded(db, failure) &&
+           Run(db, QStringLiteral("DELETE FROM DrinkRecipes WHERE DrinkID = ") + id, failure) &&
            Run(db, QStringLiteral("DELETE FROM Drinks WHERE DrinkID = ") + id,
                QStringLiteral("An error occurred removing the drink: ")) &&
            Run(db, QStringLiteral("DELETE FROM DrinkListXRef WHERE DrinkID = ") + id,
