@@ -11,13 +11,17 @@ void App::ProvisionDatabase() {
     if (folder.Exists()) {
         return;
     }
+    bool made = false;
     try {
         folder.CreateAsFolder();
+        made = true;
         seed.CopyFileTo(folder);
     } catch (const RuntimeException&) {
-        // An empty folder would keep every later start from trying again. One that cannot be removed, or was never
-        // made, changes nothing about what the user is told.
-        static_cast<void>(folder.Delete());
+        // An empty folder would keep every later start from trying again. One that cannot be removed changes nothing
+        // about what the user is told. What was not made here stays: a link to a disk that is not there, say.
+        if (made) {
+            static_cast<void>(folder.Delete());
+        }
         MsgBox(QStringLiteral("An error occurred attempting to create a user specific database in the folder  '") +
                    folder.AbsolutePath() + QStringLiteral("'"),
                16, QStringLiteral("Setup Error"));
