@@ -9,8 +9,9 @@ from Library import Library
 from Screen import List, PlaceOf, Screen
 from Waiting import WaitFor, WaitUntilEqual
 
-PROGRAM = os.environ["POURBOOK_PROGRAM"]
-SEED = os.path.join(os.path.dirname(os.path.dirname(PROGRAM)), "Resources", "drinkdb.rsd")
+PROGRAM = os.environ["POURBOOK_PROGRAM"]  # a link into the program's own tree
+TREE = os.path.dirname(os.path.dirname(os.path.realpath(PROGRAM)))
+SEED = os.path.join(TREE, "Resources", "drinkdb.rsd")
 TITLE = "Tipplewise Pourbook"
 MATCH = "Match list of cocktails to ingredients in your bar"
 
@@ -43,8 +44,11 @@ class Pourbook:
         WaitFor(lambda: self.Drinks().Count() > 0, "the main window with drinks")
         self.WaitForKeyboard()
         # During an upgrade another window of the program has the keyboard.
-        WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), TITLE, "window with the keyboard")
+        self.WaitForFront(TITLE)
         return self
+
+    def WaitForFront(self, title):
+        WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), title, "window with the keyboard")
 
     def WaitForKeyboard(self):
         """A window takes keys only once the window manager has made it the active one."""
@@ -62,6 +66,14 @@ class Pourbook:
         drinks = self.Drinks()
         return [drinks.Cell(row, 1).name for row in range(drinks.Count())]
 
+    def Lists(self):
+        return List(self.screen.Find("Drinklists", self.screen.atspi.ROLE_TABLE))
+
+    def Bar(self):
+        """The ingredients at home, each after what its bottle is."""
+        bar = List(self.screen.Find("Ingredients in your bar"))
+        return [" ".join(bar.Row(row)) for row in range(bar.Count())]
+
     def Text(self, name):
         return self.screen.Find(name, self.screen.atspi.ROLE_TEXT).queryText().getText(0, -1)
 
@@ -69,6 +81,15 @@ class Pourbook:
         """Presses the mouse in the middle of an element, or `x` pixels from its left edge."""
         left, top, width, height = PlaceOf(element)
         Desktop.ClickAt(left + (width // 2 if x is None else x), top + height // 2)
+
+    def Choose(self, menu, item):
+        self.Click(self.screen.Find(menu, self.screen.atspi.ROLE_MENU_ITEM))
+        self.Click(WaitFor(lambda: self.screen.Find(item, self.screen.atspi.ROLE_MENU_ITEM), f"the item {item!r}"))
+
+    def Answer(self, words, button="OK"):
+        """By mouse: the keyboard follows the message only when the window manager comes round to it."""
+        WaitFor(lambda: words in self.screen.Message()[1], "the message " + words)
+        self.Click(self.screen.Find(button, self.screen.atspi.ROLE_PUSH_BUTTON))
 
     def WaitForDrinks(self, names, what):
         """The list must come to hold these, in this order."""

@@ -7,7 +7,7 @@ import resource
 import shutil
 
 import Desktop
-from Pourbook import PROGRAM, SEED, ExpectEqual, Home, Pourbook
+from Pourbook import TREE, ExpectEqual, Home, Pourbook
 from Waiting import WaitFor
 
 CANNOT_OPEN = r"Could not open database\.  "
@@ -61,14 +61,6 @@ def FilesUnder(folder):
     return {path: path.read_bytes() for path in pathlib.Path(folder).rglob("*") if path.is_file()}
 
 
-def Install(install):
-    """Copies the program and its library, in the shape of an installed tree. Gives the program in it."""
-    for source, folder in ((PROGRAM, "bin"), (SEED, "Resources")):
-        os.makedirs(os.path.join(install, folder))
-        shutil.copy(source, os.path.join(install, folder))
-    return os.path.join(install, "bin", os.path.basename(PROGRAM))
-
-
 def Launch(desktop, home, program, name):
     if name == "full disk":
         return Pourbook(desktop, home, program, preexec_fn=FillDisk, restore_signals=False)
@@ -81,7 +73,7 @@ def Launch(desktop, home, program, name):
 def Check(desktop, number, name, damage, message):
     home = Home(desktop, f"home{number}")
     install = os.path.join(desktop.folder.name, f"install{number}")
-    program = Install(install)
+    program = os.path.join(shutil.copytree(TREE, install), "bin", "pourbook")
     damage(home, install)
     before = FilesUnder(home.path)
 

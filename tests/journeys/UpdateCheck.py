@@ -58,7 +58,7 @@ with Desktop.Desktop() as desktop:
     pourbook.WaitForKeyboard()
     Desktop.Key("Return")
     WaitUntilEqual(lambda: open(page).read(), f"http://{site}/download.html", "page in the browser")
-    WaitUntilEqual(lambda: Desktop.Xdotool("getactivewindow", "getwindowname"), TITLE, "window in front")
+    pourbook.WaitForFront(TITLE)
     pourbook.Close()
 
     QuitWhileTheSiteIsSilent(desktop)
