@@ -9,6 +9,7 @@
 namespace {
 
 constexpr QRgb defaultButtonColor = 0x9FB4DA;
+constexpr int arrowSize = 16;
 
 struct MessageIcon {
     QStyle::StandardPixmap icon = QStyle::SP_MessageBoxInformation;
@@ -21,6 +22,17 @@ constexpr MessageIcon messageIcons[] = {
     {QStyle::SP_MessageBoxQuestion, "Message_Question"},
     {QStyle::SP_MessageBoxInformation, "Message_Note"},
 };
+
+QIcon ArrowIcon(const QStyle& style) {
+    QPixmap pixmap(arrowSize, arrowSize);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    QStyleOption option;
+    option.rect = pixmap.rect();
+    style.drawPrimitive(QStyle::PE_IndicatorArrowRight, &option, &painter);
+    painter.end();
+    return {pixmap};
+}
 
 const Picture& DrawingFor(int size, const std::vector<const Picture*>& drawings) {
     const Picture* nearest = drawings.front();
@@ -44,6 +56,11 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
         if (const Picture* picture = NamedPicture(QString::fromLatin1(row.picture)); picture != nullptr) {
             return IconOf({picture});
         }
+    }
+    // Each menu bar asks for it, to have it where the titles find no room. The style's own is a file, for which Qt
+    // would load all its readers of image files.
+    if (icon == SP_ToolBarHorizontalExtensionButton) {
+        return ArrowIcon(*this);
     }
     return QProxyStyle::standardIcon(icon, option, widget);
 }
@@ -87,7 +104,7 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
 
 QIcon IconOf(const std::vector<const Picture*>& drawings) {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 96, 128, 256}) {
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
         QPixmap pixmap(size, size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
