@@ -10,19 +10,28 @@
 #include <tuple>
 #include <utility>
 
+namespace {
+
+QString ResourceOf(const QString& name) {
+    return QStringLiteral(":/pictures/%1.svg").arg(name);
+}
+
+} // namespace
+
 struct Picture::State {
     QString name;
     QString description;
-    mutable QSvgRenderer renderer;
+    mutable QSize size;
     const Picture* mask = nullptr;
     // By size in device pixels and screen scale. A window shows a picture at one or two sizes, so this stays small.
     mutable std::map<std::tuple<int, int, qreal>, QPixmap> renderings;
 
+    // The drawing is let go again: it takes more memory than a rendering of it, and is seldom wanted twice.
     [[nodiscard]] QImage Render(const QSize& deviceSize) const {
         QImage image(deviceSize, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
-        renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(deviceSize)));
+        QSvgRenderer(ResourceOf(name)).render(&painter, QRectF(QPointF(0, 0), QSizeF(deviceSize)));
         return image;
     }
 };
@@ -52,7 +61,10 @@ QString Picture::Name() const {
 }
 
 QSize Picture::Size() const {
-    return state_->renderer.defaultSize();
+    if (!state_->size.isValid()) {
+        state_->size = QSvgRenderer(ResourceOf(state_->name)).defaultSize();
+    }
+    return state_->size;
 }
 
 QString Picture::Description() const {
@@ -93,11 +105,10 @@ Picture* NamedPicture(const QString& name) {
     if (found != pictures.end()) {
         return found->second.get();
     }
-    const QString resource = QStringLiteral(":/pictures/%1.svg").arg(name);
-    auto state = std::make_unique<Picture::State>();
-    if (!QFile::exists(resource) || !state->renderer.load(resource)) {
+    if (!QFile::exists(ResourceOf(name))) {
         return nullptr;
     }
+    auto state = std::make_unique<Picture::State>();
     state->name = name;
     return (pictures[name] = std::unique_ptr<Picture>(new Picture(std::move(state)))).get();
 }

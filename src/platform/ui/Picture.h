@@ -10,8 +10,8 @@ class QRect;
 
 // One of the program's pictures. There is one shared object for each name, so pictures are compared by address.
 //
-// A picture is vector art and is drawn crisp at any size and screen scale. It is read at its first use and kept for
-// the run, as is each rendering of it.
+// A picture is vector art and is drawn crisp at any size and screen scale. It is read when it is first shown in
+// a size, and each rendering is kept for the run.
 class Picture {
 public:
     ~Picture();
