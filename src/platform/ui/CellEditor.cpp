@@ -132,16 +132,15 @@ private:
     CellEditor& owner_;
 };
 
-CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view)
-    : list_(list),
-      model_(model),
-      view_(view),
-      line_(new Line(*this, view.viewport())),
-      field_(std::make_unique<EditField>(line_)) {}
+CellEditor::CellEditor(Listbox& list, ListModel& model, ListView& view) : list_(list), model_(model), view_(view) {}
 
 void CellEditor::Begin(int row, int column) {
     row_ = row;
     column_ = column;
+    if (line_ == nullptr) {
+        line_ = new Line(*this, view_.viewport());
+        field_ = std::make_unique<EditField>(line_);
+    }
     const QString heading = model_.Heading(column);
     line_->setAccessibleName(heading.isEmpty() ? view_.accessibleName() : heading);
     // Where the list takes texts, one that is dropped on the field is meant for the list too.

@@ -36,7 +36,8 @@ private:
     Listbox& list_;
     ListModel& model_;
     ListView& view_;
-    Line* line_;
+    // Made for the first edit: most lists never see one.
+    Line* line_ = nullptr;
     std::unique_ptr<EditField> field_;
     int row_ = -1;
     int column_ = -1;
