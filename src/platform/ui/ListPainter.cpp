@@ -37,8 +37,14 @@ QSize BoxSize(const QStyleOptionViewItem& option) {
 // The capitals stand in the middle of the row, whatever space the font leaves above and below them.
 void DrawLine(QPainter& painter, const QRect& room, TextAlignment alignment, const QString& text) {
     const QFontMetricsF font(painter.font());
-    const QString line = font.elidedText(text, Qt::ElideRight, room.width());
-    const qreal free = room.width() - font.horizontalAdvance(line);
+    QString line = text;
+    qreal width = font.horizontalAdvance(line);
+    // To shorten a text costs several times as much as to measure it.
+    if (width > room.width()) {
+        line = font.elidedText(text, Qt::ElideRight, room.width());
+        width = font.horizontalAdvance(line);
+    }
+    const qreal free = room.width() - width;
     const qreal before = alignment == TextAlignment::Left ? 0 : alignment == TextAlignment::Centre ? free / 2 : free;
     const int baseline = static_cast<int>((room.height() + font.capHeight()) / 2);
     painter.drawText(QPointF(room.left() + before, baseline), line);
