@@ -1,6 +1,8 @@
 #include "platform/base/Date.h"
 
-#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -8,13 +10,18 @@ QDate FirstDay() {
     return {1904, 1, 1};
 }
 
+bool IsNumber(const QString& text, int mostDigits) {
+    return !text.isEmpty() && text.length() <= mostDigits &&
+           std::all_of(text.begin(), text.end(), [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+}
+
+// A regular expression would be the only one of a start, and its library half a megabyte.
 QDate ReadSQLDate(const QString& text) {
-    static const QRegularExpression form(QStringLiteral("^\\s*([0-9]{1,4})-([0-9]{1,2})-([0-9]{1,2})\\s*$"));
-    const QRegularExpressionMatch match = form.match(text);
-    if (!match.hasMatch()) {
+    const QStringList parts = text.trimmed().split(u'-');
+    if (parts.size() != 3 || !IsNumber(parts[0], 4) || !IsNumber(parts[1], 2) || !IsNumber(parts[2], 2)) {
         return {};
     }
-    return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
+    return {parts[0].toInt(), parts[1].toInt(), parts[2].toInt()};
 }
 
 } // namespace
