@@ -33,6 +33,12 @@ constexpr EditFieldLook Label(Color foreground, Color ground, int size, bool bol
     return {foreground, ground, size, bold, alignment, true, false, true};
 }
 
+constexpr EditFieldLook Caption() {
+    EditFieldLook look = Label(black, white, 10, true, TextAlignment::Centre);
+    look.isCaption = true;
+    return look;
+}
+
 // The two columns of a recipe do not wrap: a wrapped line would put what follows out of step with the other column.
 constexpr EditFieldLook Column(TextAlignment alignment) {
     return {greyText, white, 10, false, alignment, true, false, false};
@@ -70,7 +76,7 @@ void MainWindow::PlaceControls() {
             {DrinkType, &DrinkBanner, {"DrinkType", "Drink type", {530, 268, 203, 17}, T | R}},
             {DrinkRecipeBox, &Rectangle2, {"DrinkRecipeBox", "", {239, 371, 243, 167}, L | R | B}},
             {DrinkGlassBox, &Rectangle2, {"DrinkGlassBox", "", {492, 371, 241, 167}, R | B}},
-            {DrinkGlassLabel, &Rectangle2, {"DrinkGlassLabel", "Glass", {504, 365, 42, 14}, R | B}},
+            {DrinkGlassLabel, &Rectangle2, {"DrinkGlassLabel", "", {504, 365, 42, 14}, R | B}},
             {DrinkQuantities, &DrinkRecipeBox, {"DrinkQuantities", "Quantities", {246, 386, 59, 148}, B}},
             {DrinkIngredients, &DrinkRecipeBox, {"DrinkIngredients", "Ingredients", {310, 386, 170, 148}, L | R | B}},
             {GlassImage, &DrinkGlassBox, {"GlassImage", "Glass", {498, 375, 232, 156}, R | B}},
@@ -78,8 +84,8 @@ void MainWindow::PlaceControls() {
             {DrinkInstructions,
              &DrinkInstructionsBox,
              {"DrinkInstructions", "Instructions", {256, 317, 470, 35}, L | R}},
-            {DrinkRecipeLabel, &Rectangle2, {"DrinkRecipeLabel", "Recipe", {251, 365, 46, 14}, B}},
-            {DrinkInstructionsLabel, &Rectangle2, {"DrinkInstructionsLabel", "Instructions", {251, 299, 75, 14}, B}},
+            {DrinkRecipeLabel, &Rectangle2, {"DrinkRecipeLabel", "", {251, 365, 46, 14}, B}},
+            {DrinkInstructionsLabel, &Rectangle2, {"DrinkInstructionsLabel", "", {251, 299, 75, 14}, B}},
         });
 }
 
@@ -120,12 +126,12 @@ void MainWindow::DressControls() {
         {SearchBox, "", {black, white, 0, false, TextAlignment::Left, false, false, false}},
         {DrinkName, "Drink Name", Label(darkText, bannerGrey, 0, true, TextAlignment::Left)},
         {DrinkType, "(Drink Type)", Label(darkText, bannerGrey, 10, true, TextAlignment::Right)},
-        {DrinkGlassLabel, "Glass", Label(black, white, 10, true, TextAlignment::Centre)},
+        {DrinkGlassLabel, "Glass", Caption()},
         {DrinkQuantities, "", Column(TextAlignment::Right)},
         {DrinkIngredients, "", Column(TextAlignment::Left)},
         {DrinkInstructions, "", Label(greyText, white, 10, false, TextAlignment::Left)},
-        {DrinkRecipeLabel, "Recipe", Label(black, white, 10, true, TextAlignment::Centre)},
-        {DrinkInstructionsLabel, "Instructions", Label(black, white, 10, true, TextAlignment::Centre)},
+        {DrinkRecipeLabel, "Recipe", Caption()},
+        {DrinkInstructionsLabel, "Instructions", Caption()},
     };
     for (const DressedField& row : fields) {
         row.field.SetLook(row.look);

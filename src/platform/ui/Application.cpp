@@ -3,6 +3,7 @@
 #include "platform/ui/Events.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/OpenWindows.h"
+#include "platform/ui/Spoken.h"
 #include "platform/ui/Style.h"
 
 #include <QAbstractEventDispatcher>
@@ -108,6 +109,7 @@ struct Runtime::State {
 };
 
 Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, argv)) {
+    Spoken::Install();
     QApplication::setStyle(new Style);
     QApplication::setPalette(LightPalette());
     QFont font = QApplication::font();

@@ -54,6 +54,11 @@ void BevelButton::SetCaption(const QString& caption) {
     static_cast<QPushButton*>(Widget())->setText(caption);
 }
 
+void BevelButton::Describe(const QString& words) {
+    Control::Describe(words);
+    Widget()->setToolTip(words);
+}
+
 CheckBox::CheckBox() : Control(new QCheckBox) {
     auto* box = static_cast<QCheckBox*>(Widget());
     QObject::connect(box, &QCheckBox::toggled, box, [this] { events::Raise(Action); });

@@ -28,7 +28,8 @@ public:
     void SetValue(bool value);
 };
 
-// A small button for the mouse that leaves the keyboard focus, and so an edit in a list, where it is.
+// A small button for the mouse that leaves the keyboard focus, and so an edit in a list, where it is. Its caption is a
+// sign rather than a word, so a tool tip shows its description.
 class BevelButton : public Control {
 public:
     BevelButton();
@@ -36,6 +37,9 @@ public:
     std::function<void()> Action;
 
     void SetCaption(const QString& caption);
+
+private:
+    void Describe(const QString& words) override;
 };
 
 // A box that is ticked or not.

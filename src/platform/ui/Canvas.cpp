@@ -2,12 +2,15 @@
 
 #include "platform/ui/Events.h"
 #include "platform/ui/Picture.h"
+#include "platform/ui/Spoken.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWidget>
 
-class Canvas::Surface : public QWidget {
+class Canvas::Surface : public QWidget, public Spoken {
 public:
     explicit Surface(Canvas& owner) : owner_(owner) { setFocusPolicy(Qt::NoFocus); }
 
@@ -20,7 +23,34 @@ public:
         }
     }
 
+    [[nodiscard]] QAccessible::Role Role() const override {
+        if (accessibleName().isEmpty()) {
+            return QAccessible::NoRole;
+        }
+        return IsPressable() ? QAccessible::PushButton : QAccessible::Graphic;
+    }
+
+    [[nodiscard]] QString Shown() const override { return backdrop_ == nullptr ? QString() : backdrop_->Description(); }
+
+    [[nodiscard]] bool IsPressable() const override { return bool(owner_.MouseDown); }
+
+    void PressByTool() override {
+        const QPoint middle = rect().center();
+        if (events::Raise(owner_.MouseDown, middle.x(), middle.y())) {
+            events::Raise(owner_.MouseUp, middle.x(), middle.y());
+        }
+    }
+
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip) {
+            const QAccessibleInterface* words = QAccessible::queryAccessibleInterface(this);
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), words->text(QAccessible::Name), this);
+            return true;
+        }
+        return QWidget::event(event);
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override {
         if (backdrop_ != nullptr) {
             QPainter painter(this);

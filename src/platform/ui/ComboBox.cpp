@@ -2,6 +2,7 @@
 
 #include "platform/base/Exceptions.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QLineEdit>
@@ -57,6 +58,13 @@ void ComboBox::SetRowTag(int row, int tag) {
 
 QString ComboBox::Text() const {
     return BoxOf(Widget())->currentText();
+}
+
+// Tools see the field and the list that drops down as parts of their own.
+void ComboBox::Describe(const QString& words) {
+    Control::Describe(words);
+    BoxOf(Widget())->lineEdit()->setAccessibleName(words);
+    BoxOf(Widget())->view()->setAccessibleName(words);
 }
 
 // Qt's own current row keeps to the last one chosen: setting it to none would take away what is being typed.

@@ -26,6 +26,7 @@ public:
     [[nodiscard]] QString Text() const;
 
 private:
+    void Describe(const QString& words) override;
     void FollowText(const QString& text);
     void CheckRow(int row) const;
 

@@ -31,7 +31,7 @@ void Control::Place(Window& window, Control* parent, const ControlPlace& place) 
     QWidget* widget = Widget();
     widget->setParent(parent == nullptr ? window.Content() : parent->Ground());
     widget->setObjectName(QString::fromLatin1(place.name));
-    widget->setAccessibleName(QString::fromUtf8(place.description));
+    Describe(QString::fromUtf8(place.description));
     state_->parent = parent;
     state_->locks = place.locks;
     if (parent == nullptr) {
@@ -41,6 +41,10 @@ void Control::Place(Window& window, Control* parent, const ControlPlace& place) 
     }
     ShowAt(place.rect);
     widget->show();
+}
+
+void Control::Describe(const QString& words) {
+    Widget()->setAccessibleName(words);
 }
 
 QString Control::Name() const {
@@ -142,5 +146,15 @@ void Control::ShowAt(const Rect& rect) {
 void PlaceAll(Window& window, std::initializer_list<PlacedControl> rows) {
     for (const PlacedControl& row : rows) {
         row.control.Place(window, row.parent, row.place);
+    }
+}
+
+void SetTabOrder(std::initializer_list<Control*> controls) {
+    Control* before = nullptr;
+    for (Control* control : controls) {
+        if (before != nullptr) {
+            QWidget::setTabOrder(before->Widget(), control->Widget());
+        }
+        before = control;
     }
 }

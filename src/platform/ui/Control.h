@@ -13,7 +13,7 @@ class Window;
 // How one row of a window's layout table places a control.
 struct ControlPlace {
     const char* name = "";        // the control's name, which tests and assistive tools find it by
-    const char* description = ""; // what a screen reader calls it; empty for what is only decoration
+    const char* description = ""; // what a screen reader calls it; empty for decoration, and where a caption says it
     Rect rect;                    // in the window's own coordinates, also for a control inside another
     Locks locks = LockNone;
 };
@@ -60,12 +60,16 @@ protected:
 
     [[nodiscard]] QWidget* Widget() const;
 
+    // Gives the control the words that a screen reader calls it by, and its parts as far as they need their own.
+    virtual void Describe(const QString& words);
+
     // The widget that carries a control placed inside this one. It covers this one, so that both have the same
     // coordinates.
     [[nodiscard]] virtual QWidget* Ground() const { return Widget(); }
 
 private:
     friend class Window;
+    friend void SetTabOrder(std::initializer_list<Control*> controls);
     struct State;
 
     void MoveTo(const Rect& rect);
@@ -75,7 +79,7 @@ private:
 };
 
 // One row of a window's layout table. Rows stand in creation order: later controls lie above, and the tab key goes in
-// that order.
+// that order unless SetTabOrder gives another.
 struct PlacedControl {
     Control& control;
     Control* parent = nullptr;
@@ -83,3 +87,7 @@ struct PlacedControl {
 };
 
 void PlaceAll(Window& window, std::initializer_list<PlacedControl> rows);
+
+// Lets the tab key go through these controls of one window in this order, where that differs from the order of their
+// creation. The controls left out come before or behind them as they were created.
+void SetTabOrder(std::initializer_list<Control*> controls);

@@ -1,20 +1,18 @@
 #include "platform/ui/EditField.h"
 
 #include "platform/ui/Events.h"
+#include "platform/ui/FieldEvents.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/TextField.h"
 
-#include <QCoreApplication>
-#include <QFocusEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextEdit>
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 // What a field of one line and a field of many have in common.
 class EditField::Editor {
@@ -35,64 +33,6 @@ public:
 };
 
 namespace {
-
-// Tells the field of the focus that its widget gets and loses. The widget takes each event first, so that what the
-// handler selects stands. A mouse press that brings the focus would set the caret next and drop that selection, so
-// the selection is put back after it.
-class FocusEvents : public QObject {
-public:
-    FocusEvents(QWidget* widget, EditField& field) : QObject(widget), field_(field) {
-        widget->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        switch (event->type()) {
-            case QEvent::FocusIn:
-                broughtByMouse_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
-                PassOn(watched, event);
-                events::Raise(field_.GotFocus);
-                return true;
-            case QEvent::FocusOut:
-                PassOn(watched, event);
-                events::Raise(field_.LostFocus);
-                return true;
-            case QEvent::ShortcutOverride:
-                // A read-only field of many lines would leave the key to the menu.
-                if (static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
-                    event->accept();
-                    return true;
-                }
-                return false;
-            case QEvent::MouseButtonPress:
-                if (std::exchange(broughtByMouse_, false) && field_.SelLength() > 0) {
-                    PassOnKeepingSelection(watched, event);
-                    return true;
-                }
-                return false;
-            default:
-                return false;
-        }
-    }
-
-private:
-    void PassOn(QObject* watched, QEvent* event) {
-        watched->removeEventFilter(this);
-        QCoreApplication::sendEvent(watched, event);
-        watched->installEventFilter(this);
-    }
-
-    void PassOnKeepingSelection(QObject* watched, QEvent* event) {
-        const int start = field_.SelStart();
-        const int length = field_.SelLength();
-        PassOn(watched, event);
-        field_.SetSelStart(start);
-        field_.SetSelLength(length);
-    }
-
-    EditField& field_;
-    bool broughtByMouse_ = false;
-};
 
 QString WithLineFeeds(QString text) {
     return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
@@ -169,7 +109,7 @@ private:
 
 class EditField::TextEditor : public Editor {
 public:
-    explicit TextEditor(QTextEdit* edit) : edit_(edit) {
+    explicit TextEditor(TextField* edit) : edit_(edit) {
         edit_->setFrameShape(QFrame::NoFrame);
         edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -185,6 +125,7 @@ public:
         edit_->setPalette(FieldPalette(edit_->palette(), look));
         edit_->setFont(FieldFont(edit_->font(), look));
         edit_->setReadOnly(look.readOnly);
+        edit_->SetIsCaption(look.isCaption);
         edit_->setLineWrapMode(look.wraps ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
         if (look.readOnly) {
             edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -232,19 +173,19 @@ private:
         all.mergeBlockFormat(format);
     }
 
-    QTextEdit* edit_;
+    TextField* edit_;
     EditFieldLook look_;
 };
 
 EditField::EditField(Lines lines)
-    : Control(lines == Lines::One ? static_cast<QWidget*>(new QLineEdit) : new QTextEdit) {
-    new FocusEvents(Widget(), *this);
+    : Control(lines == Lines::One ? static_cast<QWidget*>(new QLineEdit) : new TextField) {
+    new FieldEvents(Widget(), *this);
     if (lines == Lines::One) {
         auto* edit = static_cast<QLineEdit*>(Widget());
         editor_ = std::make_unique<LineEditor>(edit);
         QObject::connect(edit, &QLineEdit::textChanged, edit, [this] { events::Raise(TextChange); });
     } else {
-        auto* edit = static_cast<QTextEdit*>(Widget());
+        auto* edit = static_cast<TextField*>(Widget());
         editor_ = std::make_unique<TextEditor>(edit);
         QObject::connect(edit, &QTextEdit::textChanged, edit, [this] { events::Raise(TextChange); });
     }
@@ -253,6 +194,13 @@ EditField::EditField(Lines lines)
 EditField::EditField(QLineEdit* cellEditor) : Control(cellEditor), editor_(std::make_unique<LineEditor>(cellEditor)) {}
 
 EditField::~EditField() = default;
+
+void EditField::Describe(const QString& words) {
+    Control::Describe(words);
+    if (const QTextEdit* many = editor_->Styled(); many != nullptr) {
+        many->verticalScrollBar()->setAccessibleName(words + QStringLiteral(", scroll bar"));
+    }
+}
 
 void EditField::SetLook(const EditFieldLook& look) {
     editor_->SetLook(look);

@@ -21,6 +21,9 @@ struct EditFieldLook {
     bool border = false;
     bool wraps = true;              // many lines only: whether a line too long for the field goes on below
     bool verticalScrollBar = false; // many lines only
+    // Whether the field only names what stands beside it: the tab key passes it by, and to a screen reader it is a
+    // label that is called by its text. Many lines only.
+    bool isCaption = false;
 };
 
 // A field of text, of one line or of many. Text of a read-only field can be selected and copied.
@@ -42,6 +45,8 @@ public:
     std::function<void()> TextChange;
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
+    // A key in the field, before the field sees it; see Keys.h for its text. True keeps it from the field.
+    std::function<bool(const QString& key)> KeyDown;
 
     void SetLook(const EditFieldLook& look);
     void SetTextSize(int pixels);
@@ -59,6 +64,8 @@ public:
     [[nodiscard]] class StyledText StyledText();
 
 private:
+    void Describe(const QString& words) override;
+
     class Editor;
     class LineEditor;
     class TextEditor;

@@ -1,11 +1,18 @@
 #include "platform/ui/GroupBox.h"
 
+#include "platform/ui/Spoken.h"
+
 #include <QPainter>
 #include <QWidget>
 
 namespace {
 
-class Surface : public QWidget {
+class Surface : public QWidget, public Spoken {
+public:
+    [[nodiscard]] QAccessible::Role Role() const override {
+        return accessibleName().isEmpty() ? QAccessible::NoRole : QAccessible::Grouping;
+    }
+
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);

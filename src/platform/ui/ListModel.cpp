@@ -190,6 +190,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
                    : QVariant();
     }
     const QString text = Text(index.row(), index.column());
+    if (role == Qt::AccessibleTextRole && text.isEmpty() && Type(index.column()) == ColumnType::CheckBox) {
+        return BoxName(index.row());
+    }
     if (role == Qt::AccessibleTextRole && index.column() == 0) {
         const Picture* picture = RowPicture(index.row());
         const QString words = picture == nullptr ? QString() : picture->Description();
@@ -234,6 +237,15 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags all =
         Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
     return Type(index.column()) == ColumnType::CheckBox ? all | Qt::ItemIsUserCheckable : all;
+}
+
+QString ListModel::BoxName(int row) const {
+    for (const QString& text : rows_[static_cast<std::size_t>(row)].cells) {
+        if (!text.isEmpty()) {
+            return text.trimmed();
+        }
+    }
+    return {};
 }
 
 ListModel::Row ListModel::MakeRow(const QString& text) const {

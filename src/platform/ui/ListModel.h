@@ -75,6 +75,8 @@ private:
         QString maxWidthExpression;
     };
 
+    // What the box of a row without a text of its own is called: the first text of the row.
+    [[nodiscard]] QString BoxName(int row) const;
     [[nodiscard]] Row MakeRow(const QString& text) const;
     void CellChanged(int row, int column);
     Column& ColumnAt(int column);

@@ -4,6 +4,7 @@
 #include "platform/ui/OpenWindows.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -21,14 +22,15 @@ struct Form {
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton preferred = QMessageBox::Ok;
+    const char* iconWords = "";
 };
 
 const Form forms[] = {
     {plain, QMessageBox::NoIcon, QMessageBox::Ok, QMessageBox::Ok},
-    {16, QMessageBox::Critical, QMessageBox::Ok, QMessageBox::Ok},
-    {36, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes},
-    {48, QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok},
-    {64, QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok},
+    {16, QMessageBox::Critical, QMessageBox::Ok, QMessageBox::Ok, "Stop"},
+    {36, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, "Question"},
+    {48, QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok, "Caution"},
+    {64, QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok, "Note"},
 };
 
 const Form& FormOf(int code) {
@@ -65,6 +67,9 @@ int MsgBox(const QString& text, int code, const QString& title) {
     box.setIcon(form.icon);
     box.setWindowTitle(title.isEmpty() ? QApplication::applicationName() : title);
     box.setText(text);
+    if (auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")); icon != nullptr) {
+        icon->setAccessibleName(QString::fromLatin1(form.iconWords));
+    }
     box.setStandardButtons(form.buttons);
     box.setDefaultButton(form.preferred);
     if ((form.buttons & QMessageBox::No) != 0) {

@@ -22,7 +22,7 @@ public:
     // The picture's own size in logical pixels.
     [[nodiscard]] QSize Size() const;
 
-    // What a screen reader says for the picture where it stands in a list; empty at first.
+    // What the picture shows, for a screen reader and in a tool tip; empty at first.
     [[nodiscard]] QString Description() const;
     void SetDescription(const QString& description);
 

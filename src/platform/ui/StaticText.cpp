@@ -2,6 +2,7 @@
 
 #include "platform/ui/Events.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/Spoken.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,7 +12,7 @@
 
 #include <algorithm>
 
-class StaticText::Label : public QLabel {
+class StaticText::Label : public QLabel, public Spoken {
 public:
     explicit Label(StaticText& owner) : owner_(owner) { setTextFormat(Qt::PlainText); }
 
@@ -28,6 +29,13 @@ public:
         }
         setContentsMargins(0, 0, 0, wordWrap() && !Fits() ? height() % LineHeight() : 0);
     }
+
+    [[nodiscard]] QAccessible::Role Role() const override {
+        return IsPressable() ? QAccessible::Link : QAccessible::StaticText;
+    }
+    [[nodiscard]] QString Shown() const override { return text(); }
+    [[nodiscard]] bool IsPressable() const override { return focusPolicy() != Qt::NoFocus; }
+    void PressByTool() override { Press(rect().center()); }
 
 protected:
     void resizeEvent(QResizeEvent* event) override {

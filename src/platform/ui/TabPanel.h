@@ -15,5 +15,6 @@ public:
     void AddTab(const QString& caption);
 
 private:
+    void Describe(const QString& words) override;
     [[nodiscard]] QWidget* Ground() const override;
 };
