@@ -172,12 +172,6 @@ void ListView::PaintEmptyRows() {
     }
 }
 
-void ListView::PaintFocusRing() {
-    QPainter painter(viewport());
-    painter.setPen(QPen(palette().color(QPalette::Highlight).darker(170), 2));
-    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
-}
-
 void ListView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     FitColumns();
@@ -239,12 +233,16 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
+    if (carriedFrom_ != nullptr) {
+        TakeCarryingKey(*event);
+        return;
+    }
     const QString key = KeyText(*event);
     if (!key.isEmpty() && events::Raise(list_.KeyDown, key)) {
         return;
     }
-    SetKeyboardUsed(true);
-    if (TakeActionKey(*event)) {
+    NoteKeyboardUse(*event);
+    if (RaiseCommandKey(*event) || (PicksUp(*event) && PickUp()) || TakeActionKey(*event)) {
         return;
     }
     // Qt would copy the text of the current cell, which is no command of a list here.
@@ -252,7 +250,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         event->ignore();
         return;
     }
-    if (SelectedCount() == 0 && !MarksCurrentRow() && model_.rowCount() > 0 &&
+    if (SelectedCount() == 0 && !PressesCurrentRow() && model_.rowCount() > 0 &&
         (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up ||
          (event->key() == Qt::Key_Home && currentIndex().row() <= 0))) {
         // Coming by the keyboard, Qt stands on the first row without selecting it, and would go on to the second.
@@ -293,21 +291,6 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
         return model_.index(last, column);
     }
     return QTableView::moveCursor(action, modifiers);
-}
-
-void ListView::focusInEvent(QFocusEvent* event) {
-    QTableView::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-        SetKeyboardUsed(true);
-    }
-    viewport()->update();
-    events::Raise(list_.GotFocus);
-}
-
-void ListView::focusOutEvent(QFocusEvent* event) {
-    QTableView::focusOutEvent(event);
-    viewport()->update();
-    events::Raise(list_.LostFocus);
 }
 
 void ListView::SortBy(int column) {

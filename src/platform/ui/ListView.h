@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/ui/CellEditor.h"
+#include "platform/ui/DragItem.h"
 #include "platform/ui/Listbox.h"
 
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QTableView>
 
 class ListModel;
@@ -54,6 +56,7 @@ protected:
     void keyboardSearch(const QString& search) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
@@ -64,14 +67,25 @@ protected:
 private:
     // Raises MouseDown and CellClick; true when the press ends there.
     bool TakePress(QMouseEvent* event);
+    // A modifier key by itself is no use of the list.
+    void NoteKeyboardUse(const QKeyEvent& event);
+    [[nodiscard]] bool RaiseCommandKey(const QKeyEvent& event);
     // Ticks a check box or presses the current row; true when the key did one of the two.
     bool TakeActionKey(const QKeyEvent& event);
     void PressRow(int row);
+    // Whether the key picks the selected rows up; PickUp does it and gives the keyboard to the list that takes drops.
+    [[nodiscard]] bool PicksUp(const QKeyEvent& event) const;
+    [[nodiscard]] bool PickUp();
+    void TakeCarryingKey(const QKeyEvent& event);
+    void MarkForDrop(int row);
+    void Drop();
+    void StopCarrying();
     void ToggleCheck(int row, int column);
     // The cell with a check box at this place of the viewport, or none.
     [[nodiscard]] QModelIndex CheckCellAt(const QPoint& place) const;
     void SetKeyboardUsed(bool used);
-    // Whether the current row has the mark of a row that keys can press.
+    // Whether keys can press the current row.
+    [[nodiscard]] bool PressesCurrentRow() const;
     [[nodiscard]] bool MarksCurrentRow() const;
     void PaintRowMark();
     void PaintEmptyRows();
@@ -95,6 +109,9 @@ private:
     bool rowsArePressed_ = false;
     // Whether the list was last worked with by the keyboard: after a click nobody needs to see where the keys would go.
     bool keyboardUsed_ = false;
+    // Set while the keyboard carries rows of another list to this one.
+    QPointer<ListView> carriedFrom_;
+    DragItem carried_;
     // The cell with a check box that the mouse was pressed on.
     QPersistentModelIndex pressedCheck_;
     bool horizontalLines_ = false;

@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 
 // A box is ticked on the release, as any check box is, so that a press that was a mistake can be drawn away from it.
 void ListView::mouseReleaseEvent(QMouseEvent* event) {
@@ -70,32 +69,8 @@ QModelIndex ListView::CheckCellAt(const QPoint& place) const {
     return cell.isValid() && model_.Type(cell.column()) == ColumnType::CheckBox ? cell : QModelIndex();
 }
 
-// The mark goes over all columns of a row, and Qt paints only the two cells again.
-void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
-    if (rowsArePressed_) {
-        viewport()->update();
-    }
-}
-
-void ListView::SetKeyboardUsed(bool used) {
-    if (keyboardUsed_ != used) {
-        keyboardUsed_ = used;
-        viewport()->update();
-    }
-}
-
-bool ListView::MarksCurrentRow() const {
-    return rowsArePressed_ && keyboardUsed_ && hasFocus() && currentIndex().isValid();
-}
-
-void ListView::PaintRowMark() {
-    const QModelIndex current = currentIndex();
-    const QRect row = visualRect(model_.index(current.row(), 0))
-                          .united(visualRect(model_.index(current.row(), model_.ColumnCount() - 1)));
-    QPainter painter(viewport());
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Highlight).darker(170));
-    // Well within the row, because a list may reach under its neighbours by a pixel or two.
-    painter.drawRoundedRect(QRectF(row).adjusted(4.5, 1.5, -3.5, -0.5), 3, 3);
+bool ListView::RaiseCommandKey(const QKeyEvent& event) {
+    const bool isCommand = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier && event.key() <= Qt::Key_Z;
+    return isCommand && !event.isAutoRepeat() &&
+           events::Raise(list_.CommandKeyDown, QString(QChar(event.key())).toLower());
 }

@@ -26,7 +26,8 @@ enum class GridLines { Default = 0, None = 1, ThinDotted = 2 };
 // The fixed properties of a list, as a window's layout gives them.
 struct ListboxLook {
     bool hasHeading = false;
-    // Whether a frame shows that the list has the keyboard focus.
+    // Whether a frame shows that the list has the keyboard focus. In a list without one a mark shows the row that the
+    // keyboard is at, once the keyboard is used.
     bool useFocusRing = false;
     RowSelection selection = RowSelection::Single;
     bool enableDrag = false;
@@ -36,7 +37,7 @@ struct ListboxLook {
     // second click descending.
     bool headingsSort = false;
     // Whether the rows act like buttons, on the click itself: the space bar and the return key then stand for a click
-    // on the row that the keyboard is at, and a mark shows which one that is.
+    // on the row that the keyboard is at.
     bool rowsArePressed = false;
     // Lines between the rows and between the columns, also below the last row.
     GridLines horizontalLines = GridLines::Default;
@@ -70,6 +71,9 @@ public:
     std::function<void()> LostFocus;
     // A key in the list, while no cell is edited. See Keys.h for the text of a key. True ends it there.
     std::function<bool(const QString& key)> KeyDown;
+    // A key that is pressed together with the control key alone, as the text that it types without it. True ends it
+    // there. A shortcut of the menu comes first.
+    std::function<bool(const QString& key)> CommandKeyDown;
     // A key in a cell that is edited, before the editor sees it. True keeps it from the editor.
     std::function<bool(int row, int column, const QString& key)> CellKeyDown;
     // The edit of a cell ended, for whatever reason; the cell has the new text. Raised once for each edit. The
@@ -80,7 +84,8 @@ public:
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
     // Before the text of a cell is drawn at x, y of the cell. False: the list draws it, in the colour and font set.
     std::function<bool(Graphics& g, int row, int column, int x, int y)> CellTextPaint;
-    // A drag begins on a row. False forbids it.
+    // A drag begins on a row. False forbids it. The keyboard drags too: Ctrl+D picks the selected rows up, the arrow
+    // keys choose a row of the list in the window that takes texts, and Return drops there, or Escape gives up.
     std::function<bool(DragItem& drag, int row)> DragRow;
     // Something is dragged over the list; true forbids the drop there. The action is always 0.
     std::function<bool(int x, int y, const DragItem& drag, int action)> DragOver;

@@ -44,6 +44,19 @@ const Picture& DrawingFor(int size, const std::vector<const Picture*>& drawings)
     return *nearest;
 }
 
+QColor FocusColor(const QStyleOption& option) {
+    return option.palette.color(QPalette::Highlight).darker(170);
+}
+
+void DrawFocus(QPainter& painter, const QStyleOption& option, const QRect& rect) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(FocusColor(option));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.restore();
+}
+
 } // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -67,9 +80,15 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
+    if (element == PE_FrameFocusRect) {
+        if ((option->state & State_KeyboardFocusChange) != 0) {
+            DrawFocus(*painter, *option, option->rect);
+        }
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_Frame && (option->state & State_HasFocus) != 0) {
-        painter->setPen(option->palette.color(QPalette::Highlight).darker(170));
+        painter->setPen(FocusColor(*option));
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     }
 }
@@ -92,6 +111,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         QProxyStyle::drawControl(element, &tinted, painter, widget);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    constexpr State focusByKeys = State_HasFocus | State_KeyboardFocusChange;
+    if (element == CE_PushButtonBevel && (option->state & focusByKeys) == focusByKeys) {
+        DrawFocus(*painter, *option, option->rect.adjusted(2, 2, -2, -2));
+    }
+    if (element == CE_TabBarTabLabel && (option->state & State_HasFocus) != 0) {
+        DrawFocus(*painter, *option, option->rect.adjusted(5, 5, -5, -3));
     }
 }
 

@@ -9,9 +9,8 @@ class Picture;
 
 // For the layer itself: the look of standard controls. Qt's Fusion style, with message icons that are crisp at any
 // screen scale and in the hand of the program's other pictures, with buttons that carry no icons, with a default button
-// that is told from the others at a glance, with a darker frame around a list or a field of many lines that has the
-// keyboard focus, and with pages behind tabs that cover the whole panel, so that a control on a page has its place in
-// the panel's coordinates.
+// that is told from the others at a glance, with a darker frame around what has the keyboard focus, and with pages
+// behind tabs that cover the whole panel, so that a control on a page has its place in the panel's coordinates.
 class Style : public QProxyStyle {
 public:
     Style();
