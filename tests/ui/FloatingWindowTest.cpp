@@ -1,6 +1,8 @@
 #include "UiFixture.h"
 #include "platform/ui/StaticText.h"
 
+#include <QApplication>
+
 namespace {
 
 class FloatingWindow : public Window {
@@ -40,6 +42,10 @@ TEST_F(FloatingWindowTest, StaysAboveTheDocumentTakesItsShortcutsAndGoesBeforeIt
     Press(Qt::Key_Tab);
     Press(Qt::Key_Return);
     EXPECT_EQ(TakeLog(), QStringList({"print", "link"}));
+
+    Press(Qt::Key_F10);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; })) << "the document's menu";
+    LeaveMenu();
 
     floating.Close();
     EXPECT_FALSE(Runtime::HasQuit());

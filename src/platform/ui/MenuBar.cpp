@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 
 #include <map>
 #include <set>
@@ -22,8 +23,6 @@ struct MenuItem::State {
     QString name;
     MenuItemKind kind;
     QAction* action;
-    // What follows the caption where another item has the shortcut itself.
-    QString shownShortcut;
 };
 
 MenuItem::MenuItem(std::unique_ptr<State> state) : state_(std::move(state)) {}
@@ -35,12 +34,11 @@ QString MenuItem::Name() const {
 }
 
 QString MenuItem::Text() const {
-    return state_->action->text().section(QLatin1Char('\t'), 0, 0);
+    return state_->action->text();
 }
 
 void MenuItem::SetText(const QString& caption) {
-    const QString shown = state_->shownShortcut;
-    state_->action->setText(shown.isEmpty() ? caption : caption + QLatin1Char('\t') + shown);
+    state_->action->setText(caption);
 }
 
 bool MenuItem::Enabled() const {
@@ -124,6 +122,37 @@ void RunCommand(const QString& name, MenuItemKind kind) {
     }
 }
 
+// A window without the bar brings the one with it to the front; a menu that opens before it is there would be closed.
+void OpenFirstMenu() {
+    const Window* document = OpenWindows::Document();
+    auto* bar = document == nullptr ? nullptr : document->Widget()->findChild<QMenuBar*>();
+    if (bar == nullptr) {
+        return;
+    }
+    const auto open = [bar] { bar->setActiveAction(bar->actions().value(0)); };
+    if (bar->isActiveWindow()) {
+        open();
+        return;
+    }
+    auto* change = new QObject(bar);
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, change, [change, bar, open](QWindow* focused) {
+        // Between the two windows none has the focus.
+        if (focused != nullptr) {
+            change->deleteLater();
+        }
+        if (focused == bar->window()->windowHandle()) {
+            QTimer::singleShot(0, bar, open);
+        }
+    });
+    bar->window()->activateWindow();
+}
+
+// The key that opens the menus on this platform; Qt knows only the letters of the captions.
+void AddMenuKeyTo(QWidget& widget) {
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F10), &widget);
+    QObject::connect(key, &QShortcut::activated, &widget, OpenFirstMenu);
+}
+
 } // namespace
 
 struct MenuBar::State {
@@ -139,6 +168,7 @@ MenuBar::MenuBar(const std::vector<MenuTitle>& menus, const std::vector<MenuRow>
     for (const MenuTitle& title : menus) {
         auto& menu = state_->menus.emplace_back(std::make_unique<QMenu>(QString::fromUtf8(title.caption)));
         menu->setObjectName(QString::fromLatin1(title.menu));
+        menu->setAccessibleName(QString::fromUtf8(title.caption).remove(QLatin1Char('&')));
         QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this, shown = menu.get()] {
             UpdateItems();
             // The menu takes the focus as it shows. That ends an edit, whose handler may change what can be done.
@@ -163,16 +193,16 @@ void MenuBar::AddRow(const MenuRow& row) {
     }
     QAction* action = menu->addAction(QString());
     action->setObjectName(name);
-    auto itemState = std::make_unique<MenuItem::State>(MenuItem::State{name, row.kind, action, QString()});
+    auto itemState = std::make_unique<MenuItem::State>(MenuItem::State{name, row.kind, action});
     const QKeySequence shortcut = ShortcutOf(row);
     const bool isEdit =
         row.kind == MenuItemKind::EditCut || row.kind == MenuItemKind::EditCopy || row.kind == MenuItemKind::EditPaste;
     // The field with the focus takes the keys of the edit commands itself, and no two actions may share a key:
-    // Qt would then run neither.
+    // Qt would then run neither. Such a key is only shown: it counts while the menu bar has the focus, which takes
+    // none.
+    action->setShortcut(shortcut);
     if (isEdit || (!shortcut.isEmpty() && !state_->takenShortcuts.insert(shortcut.toString()).second)) {
-        itemState->shownShortcut = shortcut.toString(QKeySequence::NativeText);
-    } else {
-        action->setShortcut(shortcut);
+        action->setShortcutContext(Qt::WidgetShortcut);
     }
     QObject::connect(action, &QAction::triggered, action, [name, kind = row.kind] { RunCommand(name, kind); });
     auto& item = state_->items.emplace_back(new MenuItem(std::move(itemState)));
@@ -199,13 +229,11 @@ void MenuBar::UpdateItems() {
 
 QMenuBar* MenuBar::MakeWidget() {
     auto* widget = new QMenuBar;
+    widget->setAccessibleName(QStringLiteral("Menus"));
     for (const auto& menu : state_->menus) {
         widget->addMenu(menu.get());
     }
-    // The key that opens the menus on this platform; Qt knows only the letters of the captions.
-    auto* open = new QShortcut(QKeySequence(Qt::Key_F10), widget);
-    QObject::connect(open, &QShortcut::activated, widget,
-                     [widget] { widget->setActiveAction(widget->actions().value(0)); });
+    AddMenuKeyTo(*widget);
     return widget;
 }
 
@@ -213,4 +241,5 @@ void MenuBar::AddShortcutsTo(QWidget& window) const {
     for (const auto& item : state_->items) {
         window.addAction(item->state_->action);
     }
+    AddMenuKeyTo(window);
 }

@@ -69,7 +69,7 @@ public:
 
     // For the layer itself: a widget for one window that shows the bar. The caller owns it.
     [[nodiscard]] QMenuBar* MakeWidget();
-    // For the layer itself: lets a window without the bar have its shortcuts.
+    // For the layer itself: lets a window without the bar have its shortcuts, and the key that opens its menus.
     void AddShortcutsTo(QWidget& window) const;
 
 private:
