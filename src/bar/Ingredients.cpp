@@ -43,6 +43,7 @@ Ingredients::Ingredients() : Window(Properties()) {
         return IngredientList_CellBackgroundPaint(g, row, column);
     };
     SetMenuBar(App::Instance().ApplicationMenuBar());
+    SetTabOrder({&IngredientList, &Cancel, &Save});
     // Otherwise the keys would start at Save, and the space bar would save instead of ticking.
     IngredientList.SetFocus();
 }

@@ -4,6 +4,12 @@
 #include "shell/App.h"
 #include "shell/MainWindow.h"
 
+namespace {
+
+constexpr int downKey = 31;
+
+} // namespace
+
 // The fills below have told the user of any failure, and nothing follows them.
 
 void MainWindow::SearchBox_TextChange() {
@@ -18,6 +24,19 @@ void MainWindow::SearchBox_GotFocus() {
         SearchBox.SetSelStart(0);
         SearchBox.SetSelLength(Len(SearchBox.Text()));
     }
+}
+
+// Down leads to what was found.
+bool MainWindow::SearchBox_KeyDown(const QString& key) {
+    if (Asc(key) != downKey) {
+        return false;
+    }
+    DrinkList.SetFocus();
+    if (DrinkList.ListIndex() < 0 && DrinkList.ListCount() > 0) {
+        DrinkList.SetListIndex(0);
+        DrinkList.SetScrollPosition(0);
+    }
+    return true;
 }
 
 void MainWindow::MatchIngredients_Action() {

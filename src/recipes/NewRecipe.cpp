@@ -24,6 +24,7 @@ NewRecipe::NewRecipe() : Window(Properties()) {
     PlaceControls();
     DressControls();
     BindEvents();
+    SetTabOrder({&Recipe, &Cancel, &AddRecipe});
     SetMenuBar(App::Instance().ApplicationMenuBar());
 }
 

@@ -15,6 +15,7 @@ MainWindow::MainWindow() : Window(properties) {
     PlaceControls();
     DressControls();
     BindEvents();
+    PrepareKeyboard();
     SetMenuBar(App::Instance().ApplicationMenuBar());
 }
 
@@ -38,6 +39,7 @@ void MainWindow::BindEvents() {
 
     SearchBox.TextChange = [this] { SearchBox_TextChange(); };
     SearchBox.GotFocus = [this] { SearchBox_GotFocus(); };
+    SearchBox.KeyDown = [this](const QString& key) { return SearchBox_KeyDown(key); };
     MatchIngredients.Action = [this] { MatchIngredients_Action(); };
     RandomDrink.Action = [this] { RandomDrink_Action(); };
 
@@ -75,6 +77,13 @@ void MainWindow::BindDrinkListsEvents() {
     DrinkListAdd.MouseDown = [this](int, int) { return DrinkListAdd_MouseDown(); };
     DrinkListAdd.MouseUp = [this](int, int) { DrinkListAdd_MouseUp(); };
     DrinkListAdd.MouseExit = [this] { DrinkListAdd_MouseExit(); };
+}
+
+// The tab key goes as the window is read, from the top and from the left, and begins where most users do: at a name.
+void MainWindow::PrepareKeyboard() {
+    SetTabOrder({&RandomDrink, &MatchIngredients, &SearchBox, &DrinkListsList, &InBarList, &DrinkList, &DrinkName,
+                 &DrinkType, &DrinkInstructions, &DrinkQuantities, &DrinkIngredients});
+    SearchBox.SetFocus();
 }
 
 // A menu bar knows nothing of drinks; what it offers depends on what is selected.

@@ -64,6 +64,7 @@ private:
     void DressControls();
     void BindEvents();
     void BindDrinkListsEvents();
+    void PrepareKeyboard();
 
     // shell/
     void Event_Close();
@@ -79,6 +80,7 @@ private:
     bool DrinkList_CompareRows(int row1, int row2, int column, int& result);
     void SearchBox_TextChange();
     void SearchBox_GotFocus();
+    bool SearchBox_KeyDown(const QString& key);
     void MatchIngredients_Action();
     void RandomDrink_Action();
 

@@ -165,7 +165,7 @@ def WriteRecipe():
         for column, text in enumerate(cells):
             Desktop.Type(text)
             Desktop.Key("Return" if (place + 1, column + 1) == (len(ROWS), len(cells)) else "Tab")
-    Desktop.Key("Tab")
+    Desktop.Xdotool("key", "Tab", "Tab")
     WaitUntilEqual(screen.FocusedName, "Add Recipe", "button with the keyboard")
     Desktop.Key("space")
     CheckRecipe(WRITTEN, SHOWN, [line.split("|")[1] for line in STORED])
