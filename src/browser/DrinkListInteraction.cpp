@@ -29,6 +29,17 @@ bool MainWindow::DrinkList_CellClick(int row, int column, int x, int /*y*/) {
     return false;
 }
 
+// Control with a digit stands for a click on the star of that number in the selected row: the digits alone look for a
+// name that begins so.
+bool MainWindow::DrinkList_CommandKeyDown(const QString& key) {
+    const int rating = Asc(key) - '0';
+    if (rating < 0 || rating > 5 || DrinkList.ListIndex() < 0) {
+        return false;
+    }
+    DrinkList_CellClick(DrinkList.ListIndex(), 0, PlaceOfRating(rating), 0);
+    return true;
+}
+
 // The text only makes the drag carry something: the list that it is dropped on reads the selection.
 bool MainWindow::DrinkList_DragRow(DragItem& drag, int /*row*/) {
     drag.text = CStr(DrinkList.CellTag(DrinkList.ListIndex(), 0));

@@ -10,6 +10,9 @@ namespace {
 
 constexpr int highestRating = 5;
 
+// Where the zones of the ratings from 1 on begin.
+constexpr int zones[] = {3, 12, 24, 36, 48};
+
 using RatingPictures = std::array<const Picture*, highestRating + 1>;
 
 // Looked up once: a list asks for these with every row of every fill.
@@ -27,8 +30,11 @@ const RatingPictures& Pictures() {
 } // namespace
 
 int RatingAt(int x) {
-    constexpr int upperEnds[] = {3, 12, 24, 36, 48};
-    return static_cast<int>(std::upper_bound(std::begin(upperEnds), std::end(upperEnds), x) - std::begin(upperEnds));
+    return static_cast<int>(std::upper_bound(std::begin(zones), std::end(zones), x) - std::begin(zones));
+}
+
+int PlaceOfRating(int rating) {
+    return rating < 1 ? 0 : zones[std::min(rating, highestRating) - 1];
 }
 
 const Picture* RatingPicture(int userRating) {

@@ -26,6 +26,7 @@ void MainWindow::BindEvents() {
     DrinkList.Change = [this] { DrinkList_Change(); };
     DrinkList.CellClick = [this](int row, int column, int x, int y) { return DrinkList_CellClick(row, column, x, y); };
     DrinkList.KeyDown = [this](const QString& key) { return DrinkList_KeyDown(key); };
+    DrinkList.CommandKeyDown = [this](const QString& key) { return DrinkList_CommandKeyDown(key); };
     DrinkList.DragRow = [this](DragItem& drag, int row) { return DrinkList_DragRow(drag, row); };
     DrinkList.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return DrinkList_CellBackgroundPaint(g, row, column);

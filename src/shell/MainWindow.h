@@ -74,6 +74,7 @@ private:
     void DrinkList_Change();
     bool DrinkList_CellClick(int row, int column, int x, int y);
     bool DrinkList_KeyDown(const QString& key);
+    bool DrinkList_CommandKeyDown(const QString& key);
     bool DrinkList_DragRow(DragItem& drag, int row);
     bool DrinkList_CellBackgroundPaint(Graphics& g, int row, int column);
     bool DrinkList_CellTextPaint(Graphics& g, int row, int column, int x, int y);

@@ -52,6 +52,10 @@ TEST_F(DrinkListInteractionTest, RatingNeedsAClickOnTheSelectedRow) {
         EXPECT_EQ(StoredRating(12), rating) << "at " << x;
         EXPECT_EQ(ShownRating(1), QString("Rating") + rating);
     }
+    for (const char key : {'3', '5', '6', '0'}) {
+        QTest::keyClick(Find<QTableView>("DrinkList"), key, Qt::ControlModifier);
+        EXPECT_EQ(StoredRating(12), key == '6' ? QString('5') : QString(key)) << "with the control key";
+    }
     ClickDrink(1, 1, 40);
     EXPECT_EQ(StoredRating(12), "0") << "the name is no rating cell";
     ClickDrink(2, 1, 20, Qt::ControlModifier);
