@@ -4,6 +4,15 @@
 
 namespace {
 
+// A name that is still being edited is settled first: one that is refused holds the user, and a second new row would
+// stay behind without a name of its own.
+bool EditIsSettled(Listbox& list) {
+    if (list.ActiveCell() != nullptr) {
+        list.SetFocus();
+    }
+    return list.ActiveCell() == nullptr;
+}
+
 // The row has no id until its name is accepted.
 void AddUnsavedRow(Listbox& list) {
     list.AddRow(QString());
@@ -26,8 +35,10 @@ void EditLastRow(Listbox& list) {
 bool App::_File_NewDrinklist_Action() {
     MainWindow& window = MainWindow::Instance();
     window.DrinkListAdd.SetBackdrop(NamedPicture(QStringLiteral("AddDrinkList")));
-    AddUnsavedRow(window.DrinkListsList);
-    EditLastRow(window.DrinkListsList);
+    if (EditIsSettled(window.DrinkListsList)) {
+        AddUnsavedRow(window.DrinkListsList);
+        EditLastRow(window.DrinkListsList);
+    }
     return false;
 }
 
@@ -42,6 +53,9 @@ void MainWindow::DrinkListAdd_MouseExit() {
 
 void MainWindow::DrinkListAdd_MouseUp() {
     DrinkListAdd.SetBackdrop(NamedPicture(QStringLiteral("AddDrinkList")));
+    if (!EditIsSettled(DrinkListsList)) {
+        return;
+    }
     AddUnsavedRow(DrinkListsList);
     DrinkListsList.SetTextSize(12);
     DrinkListsList.SetTextFont(QStringLiteral("Arial"));

@@ -21,6 +21,9 @@ TEST_F(DrinkListsTest, OnlyASavedListFiltersAndTakesADrop) {
     QTest::keyClicks(field, "  \r");
     EXPECT_EQ(LastMessage().text, "You must give the DrinkList a name.");
     EXPECT_EQ(ListedDrinks(), "Americano");
+    AnswerNextMessage();
+    Choose("File_NewDrinklist");
+    EXPECT_EQ(lists.ListCount(), 2) << "the name is asked for first";
     QTest::keyClicks(field, " Monday \r");
     EXPECT_EQ(ListedDrinks(), "") << "the row was selected before, but had no id";
     lists.SetListIndex(0);
