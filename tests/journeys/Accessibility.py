@@ -1,57 +1,67 @@
 """The program without eyes and without a mouse."""
 
 import Desktop
-from Pourbook import MATCH, ExpectEqual, Home, Pourbook
-from Screen import Has, List
+import Windows
+from Pourbook import MATCH, TITLE, ExpectEqual
+from Screen import List
+from Tree import Tree
 from Waiting import WaitFor, WaitUntilEqual
 
 RANDOM = "Random Drink Selection"
-
-
-def CheckNames(screen):
-    for element in screen.All():
-        if Has(element, screen.atspi.STATE_FOCUSABLE) and not element.name:
-            raise AssertionError(f"a {element.getRoleName()} has no name")
-    screen.Find("Search drinks", screen.atspi.ROLE_TEXT)
-    screen.Find(MATCH, screen.atspi.ROLE_CHECK_BOX)
-    screen.Find(RANDOM, screen.atspi.ROLE_PUSH_BUTTON)
+LISTS = (RANDOM, MATCH, "Search drinks", "Drinklists", "Ingredients in your bar", "Drinks")
+RECIPE = ("Drink name", "Drink type", "Instructions", "Quantities", "Ingredients")
 
 
 def CheckTables(pourbook):
     drinks = pourbook.Drinks()
     row = pourbook.DrinkNames().index("Negroni")
     ExpectEqual(drinks.Row(row)[:2], ["3 of 5 stars", "Negroni"], "a rated drink")
-    ExpectEqual(drinks.Cell(row + 1, 0).name, "not rated", "the drink below")
     bar = List(pourbook.screen.Find("Ingredients in your bar"))
     ExpectEqual([bar.Row(row) for row in range(bar.Count())], [["empty", "Campari"], ["in stock", "Gin"]], "the bar")
     lists = List(pourbook.screen.Find("Drinklists", pourbook.screen.atspi.ROLE_TABLE))
     ExpectEqual(lists.Row(1), ["drinklist", "Friday", "1"], "a drinklist")
 
 
-def TabTo(screen, name):
-    for _ in range(30):
-        before = screen.FocusedName()
-        if before == name:
-            return
+def CheckWindows(pourbook):
+    tree = Tree(pourbook.screen)
+    lines = []
+    for title, window in Windows.Walk(pourbook):
+        lines += map(str.strip, tree.Lines([window]))
+        if title == TITLE:
+            CheckTables(pourbook)
+    ExpectEqual([line for line in lines if tree.NO_NAME in line], [], "controls without a name")
+    for line in ("push button 'Add a drinklist'", "image 'Glass: cocktail glass'", "link 'About drink ratings' focusable",
+                 "row table cell 'Absinthe' focusable focused | table cell 'Absinthe' focusable"):
+        ExpectEqual(line in lines, True, line)
+
+
+def TabThrough(screen, names):
+    for name in names:
+        WaitUntilEqual(screen.FocusedName, name, "control with the keyboard")
         Desktop.Key("Tab")
-        WaitFor(screen.FocusedName, f"the tab key to leave {before!r}", lambda focused: focused != before)
-    raise AssertionError(f"the tab key does not reach {name!r}")
 
 
 def UseKeyboard(pourbook, library):
+    """Comes with the focus on the random button and a search for nothing."""
     screen = pourbook.screen
-    for name in ("Drinklists", "Ingredients in your bar", "Search drinks"):
-        TabTo(screen, name)
+    TabThrough(screen, LISTS[:2])
+    WaitUntilEqual(screen.FocusedName, "Search drinks", "control with the keyboard")
     Desktop.Type("negroni")
     pourbook.WaitForDrinks(library.Found("negroni"), "for a search by keyboard")
-    TabTo(screen, "Drinks")
     Desktop.Key("Down")
-    WaitUntilEqual(lambda: pourbook.Text("Drink name"), pourbook.DrinkNames()[0], "recipe of the drink chosen")
+    drink = pourbook.DrinkNames()[0]
+    WaitUntilEqual(lambda: pourbook.Text("Drink name"), drink, "recipe of the drink chosen")
+    Desktop.Key("ctrl+4")
+    WaitUntilEqual(lambda: pourbook.Drinks().Row(0)[:2], ["4 of 5 stars", drink], "rated drink")
+    Desktop.Xdotool("key", "ctrl+d", "Down", "Return")
+    WaitUntilEqual(lambda: library.Run("SELECT DrinkName FROM DrinkListXRef JOIN Drinks USING (DrinkID) "
+                                       "WHERE UserRating = 4"), [drink], "drink added to the list")
+    TabThrough(screen, LISTS[-1:] + RECIPE + LISTS[:2])
 
-    TabTo(screen, MATCH)
+    Desktop.Key("shift+Tab")
     Desktop.Key("space")
     pourbook.WaitForDrinks([], "with the match ticked by keyboard")
-    TabTo(screen, RANDOM)
+    Desktop.Key("shift+Tab")
     Desktop.Key("space")
     WaitFor(screen.Message, "the message of the random button")
     Desktop.Key("Return")
@@ -59,14 +69,7 @@ def UseKeyboard(pourbook, library):
 
 
 with Desktop.Desktop() as desktop:
-    home = Home(desktop)
-    library = home.GivenLibrary()
-    library.Run("UPDATE Drinks SET UserRating = 3 WHERE DrinkName = 'Negroni'")
-    library.Run("UPDATE Ingredients SET InBar = 1, Empty = IngredientName = 'Campari' "
-                "WHERE IngredientName IN ('Gin', 'Campari')")
-    library.Run("INSERT INTO DrinkLists VALUES (1, 'Friday'); INSERT INTO DrinkListXRef VALUES (1, 1, 5)")
-    pourbook = Pourbook(desktop, home).WaitForWindow()
-    CheckNames(pourbook.screen)
-    CheckTables(pourbook)
+    pourbook, library = Windows.Start(desktop)
+    CheckWindows(pourbook)
     UseKeyboard(pourbook, library)
     pourbook.Close()

@@ -25,9 +25,11 @@ class Screen:
             if child.getRole() != self.atspi.ROLE_TABLE:
                 yield from self.All(child)
 
-    def Find(self, name, role=None):
+    def Find(self, name, role=None, anywhere=False):
+        """What shows under this name, or with `anywhere` also what does not, like the items of a closed menu."""
         for element in self.All():
-            if element.name == name and role in (None, element.getRole()) and Has(element, self.atspi.STATE_SHOWING):
+            if (element.name == name and role in (None, element.getRole())
+                    and (anywhere or Has(element, self.atspi.STATE_SHOWING))):
                 return element
         raise LookupError(f"nothing is called {name!r}")
 

@@ -1,22 +1,14 @@
 """A newer version on the vendor's web site: the notice, the way to the download page, and the day that is stored."""
 
 import datetime
-import http.server
 import os
 import socket
-import threading
 
 import Desktop
+import VersionSite
 from Pourbook import TITLE, ExpectEqual, Home, Pourbook
 from Screen import PlaceOf
 from Waiting import WaitFor, WaitUntilEqual
-
-
-class VersionFile(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):
-        self.send_response(200 if self.path == "/pourbook/pb1_latestversion.txt" else 404)
-        self.end_headers()
-        self.wfile.write(b"9.9.9\n")
 
 
 def PutBrowser(folder):
@@ -42,9 +34,7 @@ def QuitWhileTheSiteIsSilent(desktop):
 
 with Desktop.Desktop() as desktop:
     page = PutBrowser(desktop.folder.name)
-    server = http.server.HTTPServer(("127.0.0.1", 0), VersionFile)
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    site = f"127.0.0.1:{server.server_port}"
+    site = VersionSite.Start()
 
     home = Home(desktop)
     pourbook = Pourbook(desktop, home, os.environ["POURBOOK_AT"], site)
