@@ -5,12 +5,16 @@
 #include "platform/ui/OpenWindows.h"
 #include "platform/ui/Spoken.h"
 #include "platform/ui/Style.h"
+#include "platform/ui/TextScale.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
 #include <QTimer>
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -108,7 +112,8 @@ struct Runtime::State {
     QApplication application;
 };
 
-Runtime::Runtime(int& argc, char** argv) : state_(std::make_unique<State>(argc, argv)) {
+Runtime::Runtime(int& argc, char** argv) {
+    Connect(argc, argv);
     Spoken::Install();
     QApplication::setStyle(new Style);
     QApplication::setPalette(LightPalette());
@@ -123,6 +128,24 @@ Runtime::~Runtime() = default;
 
 void Runtime::SetDesktopEntry(const QString& name) {
     QApplication::setDesktopFileName(name);
+}
+
+// Only a connection tells the size of the desktop's text, and none changes its scale.
+void Runtime::Connect(int& argc, char** argv) {
+    const std::vector<char*> arguments(argv, argv + argc);
+    state_ = std::make_unique<State>(argc, argv);
+    const double scale = DesktopTextScale();
+    if (scale <= 1) {
+        return;
+    }
+    state_.reset();
+    // Qt has taken its own arguments out.
+    argc = int(arguments.size());
+    std::copy(arguments.begin(), arguments.end(), argv);
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    state_ = std::make_unique<State>(argc, argv);
+    // Other programs that this one starts scale as they do.
+    qunsetenv("QT_SCALE_FACTOR");
 }
 
 void Runtime::SetIcon(const std::vector<const Picture*>& drawings) {

@@ -66,7 +66,8 @@ private:
 // is raised.
 [[noreturn]] void Quit(int exitStatus);
 
-// The process's connection to the window system. Made first in main and destroyed last.
+// The process's connection to the window system. Made first in main and destroyed last. Windows are as large as the
+// desktop's text size asks for: all measures of this layer are scaled with it.
 class Runtime {
 public:
     Runtime(int& argc, char** argv);
@@ -93,6 +94,8 @@ public:
     [[nodiscard]] static bool HasQuit();
 
 private:
+    void Connect(int& argc, char** argv);
+
     struct State;
     std::unique_ptr<State> state_;
 };
