@@ -4,6 +4,7 @@
 #include "platform/ui/Keys.h"
 #include "platform/ui/ListModel.h"
 #include "platform/ui/ListView.h"
+#include "platform/ui/Style.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -33,8 +34,7 @@ protected:
     void paintEvent(QPaintEvent* event) override {
         QLineEdit::paintEvent(event);
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight).darker(170));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        DrawFrame(painter, rect(), palette().color(QPalette::Highlight).darker(170));
     }
 
     bool event(QEvent* event) override {

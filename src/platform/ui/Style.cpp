@@ -87,9 +87,10 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_Frame && (option->state & State_HasFocus) != 0) {
-        painter->setPen(FocusColor(*option));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    if (element == PE_Frame) {
+        const bool focused = option->state.testFlag(State_HasFocus);
+        DrawFrame(*painter, option->rect,
+                  focused ? FocusColor(*option) : option->palette.color(QPalette::Window).darker(130));
     }
 }
 
@@ -126,6 +127,13 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
         return option->rect;
     }
     return QProxyStyle::subElementRect(element, option, widget);
+}
+
+void DrawFrame(QPainter& painter, const QRect& rect, const QColor& color) {
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 1), color);
+    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), color);
+    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height()), color);
+    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), color);
 }
 
 QIcon IconOf(const std::vector<const Picture*>& drawings) {

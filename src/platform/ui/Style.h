@@ -27,6 +27,10 @@ public:
                                        const QWidget* widget) const override;
 };
 
+// A frame of one logical pixel inside the rectangle. A line drawn there would lie half outside the widget at a scale of
+// one and a half.
+void DrawFrame(QPainter& painter, const QRect& rect, const QColor& color);
+
 // An icon in the sizes that desktops ask for. The drawings, at least one and the smallest first, show the same thing
 // with more and more detail: a size takes the last one that is not larger than it, or else the first.
 [[nodiscard]] QIcon IconOf(const std::vector<const Picture*>& drawings);
