@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QThread>
 #include <QWindow>
@@ -27,6 +28,11 @@ void WaitUntilOnScreen(const QWidget& frame) {
     }
 }
 
+// On Wayland the desktop alone places windows, and tells nobody where.
+bool WindowsKnowTheirPlace() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 } // namespace
 
 struct Window::State {
@@ -34,6 +40,14 @@ struct Window::State {
     std::unique_ptr<WindowFrame> frame;
     std::vector<Control*> controls;
     bool closed = false;
+    // Where the window was last put.
+    QPoint place;
+
+    [[nodiscard]] QPoint Position() const { return WindowsKnowTheirPlace() ? frame->pos() : place; }
+    void MoveTo(const QPoint& position) {
+        place = position;
+        frame->move(position);
+    }
 };
 
 Window::Window(const WindowProperties& properties) : state_(std::make_unique<State>()) {
@@ -58,11 +72,11 @@ Window& Window::Implicit(std::type_index type, const std::function<std::unique_p
 }
 
 int Window::Top() const {
-    return state_->frame->pos().y();
+    return state_->Position().y();
 }
 
 int Window::Left() const {
-    return state_->frame->pos().x();
+    return state_->Position().x();
 }
 
 int Window::Width() const {
@@ -74,11 +88,11 @@ int Window::Height() const {
 }
 
 void Window::SetTop(int top) {
-    state_->frame->move(Left(), top);
+    state_->MoveTo({Left(), top});
 }
 
 void Window::SetLeft(int left) {
-    state_->frame->move(left, Top());
+    state_->MoveTo({left, Top()});
 }
 
 void Window::SetWidth(int width) {

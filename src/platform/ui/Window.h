@@ -57,7 +57,8 @@ public:
     std::function<void()> EnableMenuItems;
 
     // Position of the frame on the screen and size of the content, in logical pixels. The values go to the window
-    // system as they are, bounded only by the minimum and maximum size, and are read back as it left them.
+    // system as they are, bounded only by the minimum and maximum size, and are read back as it left them. Where it
+    // lets no program place a window, the position reads back as it was set.
     [[nodiscard]] int Top() const;
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Width() const;
