@@ -29,6 +29,9 @@ public:
     // Expects one more message box and does this while it is open; it must end the box.
     void DuringNextMessage(std::function<void(QMessageBox& box)> action);
 
+    // From here on a box that is not expected is no failure: this is done while it is open, and must end it.
+    void AnswerOtherMessages(std::function<void(QMessageBox& box)> action) { others_ = std::move(action); }
+
     // The boxes that were shown so far, expected or not.
     [[nodiscard]] const std::vector<ShownMessage>& ShownMessages() const { return shown_; }
     // The last of them; an empty one when there was none.
@@ -41,5 +44,6 @@ private:
     void Answer(QMessageBox& box);
 
     std::deque<std::function<void(QMessageBox& box)>> expected_;
+    std::function<void(QMessageBox& box)> others_;
     std::vector<ShownMessage> shown_;
 };

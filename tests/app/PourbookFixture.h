@@ -55,6 +55,9 @@ protected:
     void AnswerNextMessage(QMessageBox::StandardButton button = QMessageBox::Ok) {
         messages_.AnswerNextMessage(button);
     }
+    void AnswerOtherMessages(std::function<void(QMessageBox& box)> action) {
+        messages_.AnswerOtherMessages(std::move(action));
+    }
     [[nodiscard]] ShownMessage LastMessage() const { return messages_.LastMessage(); }
 
 private:

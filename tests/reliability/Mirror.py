@@ -1,0 +1,173 @@
+"""What a user's file must hold, worked out apart from the program: the statements that each operation stands for, run
+on a copy in memory."""
+
+import difflib
+import sqlite3
+
+DRINK = "(SELECT DrinkID FROM Drinks WHERE DrinkName = :drink)"
+LIST = "(SELECT DrinkListID FROM DrinkLists WHERE DrinkListName = :list)"
+
+# The day of the last look for a new version is no part of what the user made.
+LEFT_OUT = {"LastUpdateCheck"}
+
+# The same by names: two programs that write in turn give the ids in an order that nobody can foresee. The bar is left
+# out too, because both write it.
+BY_NAME = """
+    SELECT DrinkName, DrinkTypeID, GlassTypeID, IngredientCount, IngredientList, UserRating, UserModified FROM Drinks
+        ORDER BY 1;
+    SELECT DrinkName, RecipeStep, IngredientName, IngredientQuantity, UofMID, Required FROM DrinkRecipes
+        LEFT JOIN Drinks USING (DrinkID) LEFT JOIN Ingredients USING (IngredientID) ORDER BY 1, 2;
+    SELECT 'list', DrinkListName FROM DrinkLists ORDER BY 2;
+    SELECT DrinkListName, DrinkName FROM DrinkListXRef LEFT JOIN DrinkLists USING (DrinkListID)
+        LEFT JOIN Drinks USING (DrinkID) ORDER BY 1, 2;
+    SELECT 'ingredient', IngredientName FROM Ingredients ORDER BY 2"""
+
+# No row without what it belongs to, and no ingredient that no recipe names.
+ORPHANS = """
+    SELECT 'recipe row', DrinkID, IngredientID FROM DrinkRecipes WHERE DrinkID NOT IN (SELECT DrinkID FROM Drinks)
+        OR IngredientID NOT IN (SELECT IngredientID FROM Ingredients);
+    SELECT 'member', DrinkListID, DrinkID FROM DrinkListXRef WHERE DrinkID NOT IN (SELECT DrinkID FROM Drinks)
+        OR DrinkListID NOT IN (SELECT DrinkListID FROM DrinkLists)"""
+
+
+def Difference(expected, seen):
+    return "\n".join(list(difflib.unified_diff(expected, seen, "expected", "seen", "", 0))[:20])
+
+
+def Names(operation):
+    return {operation.get("drink"), operation.get("list"), operation.get("name"), *operation.get("drinks", ())} - {None}
+
+
+class Finding(Exception):
+    """The program did not keep a promise."""
+
+
+class Mirror:
+    def __init__(self, library):
+        self.db = sqlite3.connect(":memory:", isolation_level=None)
+        self.db.executescript("\n".join(library.Run(".dump\n--")))
+        self.view = "; ".join(
+            f"SELECT '{table}', {', '.join(f'quote({row[1]})' for row in columns if row[1] not in LEFT_OUT)} "
+            f"FROM {table} ORDER BY rowid"
+            for table, columns in [(name, self.Rows(f"PRAGMA table_info({name})"))
+                                   for name, in self.Rows("SELECT name FROM sqlite_master WHERE type = 'table'")])
+
+    def Rows(self, statement, values=()):
+        return self.db.execute(statement, values).fetchall()
+
+    def View(self, selects=None):
+        """As the shell prints it."""
+        rows = [row for select in (selects or self.view).split(";") for row in self.Rows(select)]
+        return "\n".join("|".join("" if cell is None else str(cell) for cell in row) for row in rows).split("\n")
+
+    def Do(self, statements):
+        for statement, values in statements:
+            self.db.execute(statement, values)
+
+    def Matches(self, seen, statements):
+        """Runs as many of the statements as it takes to come to what was seen. Gives their number, or None."""
+        done = 0
+        while self.View() != seen:
+            statement, values = next(statements, (None, None))
+            if statement is None:
+                return None
+            self.db.execute(statement, values)
+            done += 1
+        return done
+
+    def CheckByName(self, library, operations):
+        """Does what was done, in the order in which it was, and compares. What an operation touched that did not end
+        in peace is left out, because any part of it may have been done."""
+        uncertain = set()
+        for operation in sorted(operations, key=lambda operation: operation["done"]):
+            if operation["messages"] or Names(operation) & uncertain:
+                uncertain |= Names(operation)
+            else:
+                self.Do(self.Statements(operation))
+
+        def Certain(rows):
+            return [row for row in rows
+                    if not (uncertain and row.startswith("ingredient|")) and not any(name in row for name in uncertain)]
+
+        expected, seen = Certain(self.View(BY_NAME)), Certain(library.Run(BY_NAME))
+        if seen != expected:
+            raise Finding("by name:\n" + Difference(expected, seen))
+        if library.Run("PRAGMA integrity_check") != ["ok"]:
+            raise Finding("the file is corrupt")
+        if not uncertain and library.Run(ORPHANS):
+            raise Finding(f"left alone: {library.Run(ORPHANS)}")
+
+    def Statements(self, line):
+        """The statements of an operation of a worker, each made when its turn comes."""
+        operation = line["begin"]
+        if operation == "rate":
+            yield f"UPDATE Drinks SET UserRating = :stars WHERE DrinkID = {DRINK}", line
+        elif operation == "fill bar":
+            yield "UPDATE Ingredients SET InBar = 0, Empty = 0", ()
+            for ingredient in line["ingredients"]:
+                yield "UPDATE Ingredients SET InBar = 1 WHERE IngredientID = ?", (ingredient,)
+        elif operation == "flip bottle":
+            yield "UPDATE Ingredients SET Empty = :empty WHERE IngredientID = :ingredient", line
+        elif operation == "new list":
+            yield "INSERT INTO DrinkLists (DrinkListName) VALUES (:name)", line
+        elif operation == "rename list":
+            yield f"UPDATE DrinkLists SET DrinkListName = :name WHERE DrinkListID = {LIST}", line
+        elif operation == "delete list":
+            yield f"DELETE FROM DrinkListXRef WHERE DrinkListID = {LIST}", line
+            yield "DELETE FROM DrinkLists WHERE DrinkListName = :list", line
+        elif operation in ("drop drinks", "take out drinks"):
+            for drink in line["drinks"]:
+                pair = dict(line, drink=drink)
+                member = f"DrinkListID = {LIST} AND DrinkID = {DRINK}"
+                if operation == "take out drinks":
+                    yield f"DELETE FROM DrinkListXRef WHERE {member}", pair
+                elif not self.Rows(f"SELECT 1 FROM DrinkListXRef WHERE {member}", pair):
+                    yield f"INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES ({LIST}, {DRINK})", pair
+        elif operation == "write recipe":
+            yield from self.Recipe(line)
+        elif operation == "delete drinks":
+            for drink in line["drinks"]:
+                yield from self.Deletion(drink)
+        elif operation == "close":
+            yield ("UPDATE Setup SET AppLeft = :left, AppTop = :top, AppWidth = :width, AppHeight = :height, "
+                   "UserOptions = :options"), line
+
+    def Recipe(self, line):
+        rows = line["rows"]
+        yield ("""INSERT INTO Drinks (DrinkName, DrinkInstruction, DrinkTypeID, GlassTypeID, IngredientCount,
+                IngredientList, UserModified)
+            SELECT ?, '', DrinkTypeID, GlassTypeID, ?, ?, '1' FROM DrinkTypes, GlassTypes
+            WHERE DrinkTypeName = 'Sour' AND GlassTypeName = 'Cocktail'""",
+               (line["drink"], len(rows), ", ".join(row[0] for row in rows)))
+        for step, (name, quantity, unit) in enumerate(rows, 1):
+            yield "INSERT INTO Ingredients (IngredientName, InBar, Empty) VALUES (?, '0', '0')", (name,)
+            yield (f"""INSERT INTO DrinkRecipes (DrinkID, IngredientID, RecipeStep, IngredientQuantity, UofMID, Required)
+                VALUES ({DRINK}, (SELECT MAX(IngredientID) FROM Ingredients), :step, :quantity,
+                    (SELECT UofMID FROM UnitsOfMeasure WHERE UofM = :unit), 1)""",
+                   {"drink": line["drink"], "step": step, "quantity": quantity, "unit": unit})
+
+    def Deletion(self, drink):
+        name = {"drink": drink}
+        ingredients = self.Rows(f"SELECT IngredientID FROM DrinkRecipes WHERE DrinkID = {DRINK}", name)
+        drinkID = self.Rows("SELECT DrinkID FROM Drinks WHERE DrinkName = :drink", name)[0]
+        for table in ("DrinkRecipes", "Drinks", "DrinkListXRef"):
+            yield f"DELETE FROM {table} WHERE DrinkID = ?", drinkID
+        for ingredient in ingredients:
+            if not self.Rows("SELECT 1 FROM DrinkRecipes WHERE IngredientID = ?", ingredient):
+                yield "DELETE FROM Ingredients WHERE IngredientID = ?", ingredient
+
+    def Upgrade(self, old):
+        """What is carried over from the mirror of an old file into this one, a new library."""
+        for row in old.Rows("SELECT UserRating, DrinkName FROM Drinks WHERE UserRating IS NOT NULL"):
+            yield "UPDATE Drinks SET UserRating = ? WHERE DrinkName = ?", row
+        for row in old.Rows("SELECT Empty, IngredientName FROM Ingredients WHERE InBar = 1"):
+            yield "UPDATE Ingredients SET InBar = 1, Empty = ? WHERE IngredientName = ?", row
+        previous = None
+        for name, drink in old.Rows("SELECT DrinkListName, DrinkName FROM DrinkListXRef JOIN DrinkLists USING "
+                                    "(DrinkListID) JOIN Drinks USING (DrinkID) ORDER BY DrinkListName"):
+            if name != previous:
+                yield "INSERT INTO DrinkLists (DrinkListName) VALUES (?)", (name,)
+            previous = name
+            if self.Rows("SELECT 1 FROM Drinks WHERE DrinkName = ?", (drink,)):
+                yield (f"INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES ({LIST}, {DRINK})",
+                       {"list": name, "drink": drink})
