@@ -13,6 +13,11 @@ if(POURBOOK_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(POURBOOK_FUZZ)
+    # All code counts its branches; only the targets have the fuzzer's main.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 # What makes a fault harder to exploit, in what people run. tests/package looks whether the linked program has it.
