@@ -23,7 +23,7 @@ struct Picture::State {
     QString description;
     mutable QSize size;
     const Picture* mask = nullptr;
-    // By size in device pixels and screen scale. A window shows a picture at one or two sizes, so this stays small.
+    // By size in device pixels and screen scale.
     mutable std::map<std::tuple<int, int, qreal>, QPixmap> renderings;
 
     // The drawing is let go again: it takes more memory than a rendering of it, and is seldom wanted twice.
@@ -37,6 +37,10 @@ struct Picture::State {
 };
 
 namespace {
+
+// A window shows a picture at one or two sizes. One that stretches with the window has a new size with every step of
+// the mouse, and the old ones do not come back.
+constexpr std::size_t mostRenderings = 8;
 
 void ApplyMask(QImage& image, const QImage& mask) {
     for (int y = 0; y < image.height(); ++y) {
@@ -86,6 +90,9 @@ void Picture::Draw(QPainter& painter, const QRect& rect) const {
                            static_cast<int>(std::lround(rect.height() * scale)));
     if (deviceSize.isEmpty()) {
         return;
+    }
+    if (state_->renderings.size() > mostRenderings) {
+        state_->renderings.clear();
     }
     QPixmap& rendering = state_->renderings[{deviceSize.width(), deviceSize.height(), scale}];
     if (rendering.isNull()) {
