@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 // The wait serves the events of an application.
 class HTTPSocketTest : public testing::Test {
     Application application_;
@@ -16,6 +18,9 @@ TEST_F(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
     const int TimedOut = HTTPSocket::TimedOut;
     const int TooLong = HTTPSocket::TooLong;
     const QByteArray chunk(60 * 1024, 'x');
+    const QByteArray zeros(2, '\0');
+    const QByteArray manyHeaders = QByteArray("A:\r\n").repeated(10000);
+    const LoopbackServer elsewhere({});
     const QString longest(HTTPSocket::MaximumPage, 'x');
     const struct {
         const char* name;
@@ -27,7 +32,17 @@ TEST_F(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
         {"headers in two pieces", LoopbackServer({"HTTP/1.0 200 OK\r\nServer: a\r", "\n\r\n1.2"}), "1.2", 200, 0},
         {"line feeds alone", LoopbackServer({"HTTP/1.0 200 OK\nServer: a\n\n1.2.0"}), "1.2.0", 200, 0},
         {"error page", LoopbackServer({"HTTP/1.0 404 Not Found\r\n\r\n<p>", "None</p>"}), "<p>None</p>", 404, 0},
-        {"redirection", LoopbackServer({"HTTP/1.0 301 Moved\r\nLocation: /b\r\n\r\nThere"}), "There", 301, 0},
+        {"redirection",
+         LoopbackServer({"HTTP/1.0 301 Moved\r\nLocation: http://" + elsewhere.Site().toUtf8() + "/\r\n\r\nThere"}),
+         "There", 301, 0},
+        {"chunks", LoopbackServer({"HTTP/1.0 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1\r\n9\r\n"}), "1\r\n9\r\n",
+         200, 0},
+        {"length below zero", LoopbackServer({"HTTP/1.0 200 OK\r\nContent-Length: -1\r\n\r\n1.2"}), "1.2", 200, 0},
+        {"status beyond all", LoopbackServer({"HTTP/1.0 99999999999 OK\r\n\r\n1.2"}), "1.2", INT_MAX, 0},
+        {"zeros", LoopbackServer({zeros + "\r\n\r\n" + zeros}), QString(2, QChar::Null), 0, 0},
+        {"10,000 headers", LoopbackServer({"HTTP/1.0 200 OK\r\n" + manyHeaders + "\r\n1.2"}), "1.2", 200, 0},
+        {"headers letter by letter", LoopbackServer({"HTTP/1.0 200 OK\r\nA: ", "b"}, Then::RepeatLastPiece), "", 0,
+         TimedOut},
         {"nothing", LoopbackServer({}), "", 0, 0},
         {"silence", LoopbackServer({}, Then::HoldOpen), "", 0, TimedOut},
         {"end within the headers", LoopbackServer({"HTTP/1.0 200 OK\r\nServ"}), "", 0, TimedOut},
@@ -47,6 +62,7 @@ TEST_F(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
                   "GET /a/page.txt HTTP/1.0\r\nAccept: */*\r\nAccept-Language: en\r\nHost: " + row.server.Site() +
                       "\r\n\r\n");
     }
+    EXPECT_TRUE(elsewhere.Requests().isEmpty()) << "the redirection was followed";
 }
 
 TEST_F(HTTPSocketTest, AConnectionThatCannotBeMadeIsAnErrorAtOnce) {
