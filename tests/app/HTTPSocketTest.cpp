@@ -77,3 +77,10 @@ TEST_F(HTTPSocketTest, AConnectionThatCannotBeMadeIsAnErrorAtOnce) {
         EXPECT_EQ(socket.ErrorCode(), static_cast<int>(failure)) << site;
     }
 }
+
+// The server has no address of version 6, which the name may give first.
+TEST_F(HTTPSocketTest, AHostIsFoundByItsName) {
+    const LoopbackServer server({"HTTP/1.0 200 OK\r\n\r\n1.2"});
+    HTTPSocket socket;
+    EXPECT_EQ(socket.Get(server.Site().replace("127.0.0.1", "localhost"), 5), "1.2");
+}

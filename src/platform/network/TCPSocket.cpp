@@ -1,5 +1,6 @@
 #include "platform/network/TCPSocket.h"
 
+#include "platform/network/HostLookup.h"
 #include "platform/ui/Events.h"
 
 #include <QCoreApplication>
@@ -32,6 +33,8 @@ struct TCPSocket::State {
     int port = 0;
     int lastErrorCode = 0;
     bool connected = false;
+    HostLookup lookup;
+    QList<QHostAddress> addresses; // that are left to try
     QTcpSocket socket;
     // Ends when the new connection is to begin. The library can fail inside its own call, before the caller of Connect
     // is ready for an event.
@@ -45,11 +48,25 @@ TCPSocket::TCPSocket() : state_(std::make_unique<State>()) {
     QObject::connect(&state_->beginning, &QTimer::timeout, &socket, [this] { Begin(); });
     QObject::connect(&socket, &QTcpSocket::connected, &socket, [this] {
         state_->connected = true;
+        state_->addresses.clear();
         events::Raise(Connected);
     });
     QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] { events::Raise(DataAvailable); });
-    QObject::connect(&socket, &QTcpSocket::errorOccurred, &socket,
-                     [this](QAbstractSocket::SocketError error) { Fail(FailureOf(error)); });
+    QObject::connect(&socket, &QTcpSocket::errorOccurred, &socket, [this](QAbstractSocket::SocketError error) {
+        if (state_->addresses.isEmpty()) {
+            Fail(FailureOf(error));
+        } else {
+            TryNextAddress();
+        }
+    });
+    state_->lookup.Done = [this](const QList<QHostAddress>& addresses) {
+        state_->addresses = addresses;
+        if (addresses.isEmpty()) {
+            Fail(SocketFailure::HostNotFound);
+        } else {
+            TryNextAddress();
+        }
+    };
 }
 
 // The end of the connection says nothing to an object that is half gone.
@@ -81,6 +98,8 @@ void TCPSocket::Connect() {
 
 void TCPSocket::Close() {
     state_->beginning.stop();
+    state_->lookup.Cancel();
+    state_->addresses.clear();
     state_->connected = false;
     state_->socket.abort();
 }
@@ -130,7 +149,14 @@ void TCPSocket::Begin() {
     } else if (state_->port < 1 || state_->port > largestPort) {
         Fail(SocketFailure::Other);
     } else {
-        state_->socket.connectToHost(state_->address, static_cast<quint16>(state_->port));
+        state_->lookup.Begin(state_->address);
+    }
+}
+
+void TCPSocket::TryNextAddress() {
+    if (!state_->addresses.isEmpty()) {
+        state_->socket.abort();
+        state_->socket.connectToHost(state_->addresses.takeFirst(), static_cast<quint16>(state_->port));
     }
 }
 

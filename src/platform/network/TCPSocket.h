@@ -71,6 +71,7 @@ private:
     struct State;
 
     void Begin();
+    void TryNextAddress();
     void Fail(SocketFailure failure);
 
     std::unique_ptr<State> state_;
