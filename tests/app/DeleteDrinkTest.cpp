@@ -57,6 +57,11 @@ TEST_F(DeleteDrinkTest, FromADrinklistTheKeysOnlyTakeOut) {
     EXPECT_EQ(Window().DrinkListsList.ListIndex(), 1);
     EXPECT_EQ(Window().DrinkListsList.Cell(1, 2), "1");
     EXPECT_EQ(ListedDrinks(), "Americano");
+
+    Window().DrinkListsList.SetListIndex(2);
+    Execute("DELETE FROM DrinkLists WHERE DrinkListID = 2");
+    Delete(Qt::Key_Backspace, QMessageBox::Yes);
+    EXPECT_EQ(Window().DrinkListsList.ListIndex(), 0) << "the list is gone";
 }
 
 TEST_F(DeleteDrinkTest, AFailureStopsThereAndTheListShowsWhatIsLeft) {
