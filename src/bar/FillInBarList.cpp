@@ -1,8 +1,8 @@
 #include "platform/ui/Graphics.h"
-#include "platform/ui/MsgBox.h"
 #include "platform/ui/Picture.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 bool App::FillInBarList() {
     REALSQLDatabase db;
@@ -11,8 +11,7 @@ bool App::FillInBarList() {
     }
     RecordSet rs = db.SQLSelect(QStringLiteral(
         "SELECT IngredientID, IngredientName, Empty FROM Ingredients WHERE InBar = 1 ORDER BY IngredientName"));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database for ingredients:  ") + db.ErrorMessage());
+    if (!Succeeded(db, QStringLiteral("Could not query the database for ingredients:  "))) {
         return false;
     }
 

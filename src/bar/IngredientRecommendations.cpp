@@ -1,9 +1,9 @@
 #include "bar/IngredientRecommendations.h"
 
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
 #include "shell/WindowPlacement.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -45,9 +45,7 @@ void App::ShowIngredientRecommendations() {
     }
     const QString lineEnd = OnMac ? EndOfLine::Macintosh() : EndOfLine::Windows();
     RecordSet rs = db.SQLSelect(QString::fromLatin1(selectMissing));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database for ingredients:  ") + db.ErrorMessage());
-        db.Close();
+    if (!Succeeded(db, QStringLiteral("Could not query the database for ingredients:  "))) {
         return;
     }
     QString names;

@@ -1,9 +1,15 @@
 #include "bar/Ingredients.h"
-#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
 #include "shell/WindowPlacement.h"
+#include "store/Succeeded.h"
 
 namespace {
+
+constexpr auto selectGeneric = "SELECT IngredientID, IngredientName, Empty, InBar FROM Ingredients "
+                               "WHERE IngredientParentID IS NULL ORDER BY IngredientName";
+constexpr auto selectSpecific =
+    "SELECT IngredientID, IngredientParentID, IngredientName, Empty, InBar FROM Ingredients "
+    "WHERE IngredientParentID IS NOT NULL ORDER BY IngredientName DESC";
 
 void PrepareList(Listbox& list) {
     list.DeleteAllRows();
@@ -33,19 +39,15 @@ int ParentRow(const Listbox& list, int parent) {
     return -1;
 }
 
-RecordSet SelectIngredients(REALSQLDatabase& db, const QString& statement) {
-    RecordSet rs = db.SQLSelect(statement);
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database for ingredients:  ") + db.ErrorMessage());
-    }
-    return rs;
+// False: the user was told.
+bool SelectIngredients(REALSQLDatabase& db, const char* statement, RecordSet& rs) {
+    rs = db.SQLSelect(QString::fromLatin1(statement));
+    return Succeeded(db, QStringLiteral("Could not query the database for ingredients:  "));
 }
 
 bool AddGenericIngredients(REALSQLDatabase& db, Listbox& list) {
-    RecordSet rs = SelectIngredients(db, QStringLiteral("SELECT IngredientID, IngredientName, Empty, InBar "
-                                                        "FROM Ingredients WHERE IngredientParentID IS NULL "
-                                                        "ORDER BY IngredientName"));
-    if (rs.IsNil()) {
+    RecordSet rs;
+    if (!SelectIngredients(db, selectGeneric, rs)) {
         return false;
     }
     for (; !rs.Eof(); rs.MoveNext()) {
@@ -57,11 +59,8 @@ bool AddGenericIngredients(REALSQLDatabase& db, Listbox& list) {
 
 // Each goes directly below its parent and pushes down the ones before it, so they come last name first.
 void InsertSpecificIngredients(REALSQLDatabase& db, Listbox& list) {
-    RecordSet rs = SelectIngredients(db, QStringLiteral("SELECT IngredientID, IngredientParentID, IngredientName, "
-                                                        "Empty, InBar FROM Ingredients "
-                                                        "WHERE IngredientParentID IS NOT NULL "
-                                                        "ORDER BY IngredientName DESC"));
-    if (rs.IsNil()) {
+    RecordSet rs;
+    if (!SelectIngredients(db, selectSpecific, rs)) {
         return;
     }
     for (; !rs.Eof(); rs.MoveNext()) {

@@ -1,9 +1,9 @@
 #include "browser/GlassPicture.h"
 #include "browser/QuantityText.h"
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 #include <QStringList>
 
@@ -44,11 +44,8 @@ RecordSet SelectRecipe(REALSQLDatabase& db, int DrinkID) {
         CStr(DrinkID) + QStringLiteral(" ORDER BY R.RecipeStep"));
 }
 
-bool TellOfError(const REALSQLDatabase& db) {
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database:  ") + db.ErrorMessage());
-    }
-    return db.Error();
+bool SelectSucceeded(const REALSQLDatabase& db) {
+    return Succeeded(db, QStringLiteral("Could not query the database:  "));
 }
 
 // The two texts have a line for each row of the recipe, so that side by side they read quantity, dash, name.
@@ -101,11 +98,11 @@ void App::ShowDrinkInfo(int DrinkID) {
         return;
     }
     const RecordSet drink = SelectDrink(db, DrinkID);
-    if (TellOfError(db)) {
+    if (!SelectSucceeded(db)) {
         return;
     }
     const RecordSet recipe = SelectRecipe(db, DrinkID);
-    if (TellOfError(db)) {
+    if (!SelectSucceeded(db)) {
         return;
     }
 

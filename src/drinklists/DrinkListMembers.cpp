@@ -1,6 +1,7 @@
 #include "platform/base/Text.h"
 #include "platform/ui/MsgBox.h"
 #include "shell/App.h"
+#include "store/Succeeded.h"
 
 bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
     REALSQLDatabase db;
@@ -9,8 +10,7 @@ bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
     }
     RecordSet members = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = ") +
                                      CStr(DrinkListID) + QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("An error occurred attempting to query drinklists: ") + db.ErrorMessage());
+    if (!Succeeded(db, QStringLiteral("An error occurred attempting to query drinklists: "))) {
         return false;
     }
     if (!members.Eof()) {
@@ -21,11 +21,7 @@ bool App::AddToDrinkList(int DrinkListID, int DrinkID) {
     }
     db.SQLExecute(QStringLiteral("INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES (") + CStr(DrinkListID) +
                   QStringLiteral(", ") + CStr(DrinkID) + QStringLiteral(")"));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("An error occurred inserting drink into drinklist: ") + db.ErrorMessage());
-        return false;
-    }
-    return true;
+    return Succeeded(db, QStringLiteral("An error occurred inserting drink into drinklist: "));
 }
 
 bool App::DeleteFromDrinkList(int DrinkListID, int DrinkID) {
@@ -35,9 +31,5 @@ bool App::DeleteFromDrinkList(int DrinkListID, int DrinkID) {
     }
     db.SQLExecute(QStringLiteral("DELETE FROM DrinkListXRef WHERE DrinkListID = ") + CStr(DrinkListID) +
                   QStringLiteral(" AND DrinkID = ") + CStr(DrinkID));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("An error occurred removing a drink from a drinklist: ") + db.ErrorMessage());
-        return false;
-    }
-    return true;
+    return Succeeded(db, QStringLiteral("An error occurred removing a drink from a drinklist: "));
 }

@@ -1,8 +1,8 @@
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "platform/ui/Picture.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -20,8 +20,7 @@ void PrepareList(Listbox& list) {
 // told.
 bool ShowCount(REALSQLDatabase& db, Listbox& list, const QString& select) {
     const RecordSet rows = db.SQLSelect(select);
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database for a drink count:  ") + db.ErrorMessage());
+    if (!Succeeded(db, QStringLiteral("Could not query the database for a drink count:  "))) {
         return false;
     }
     list.SetCell(list.LastIndex(), 2, CStr(rows.RecordCount()));
@@ -36,8 +35,7 @@ bool App::FillDrinkListsList() {
         return false;
     }
     RecordSet rs = db.SQLSelect(QStringLiteral("SELECT * FROM DrinkLists ORDER BY DrinkListName"));
-    if (db.Error()) {
-        MsgBox(QStringLiteral("Could not query the database for drink lists:  ") + db.ErrorMessage());
+    if (!Succeeded(db, QStringLiteral("Could not query the database for drink lists:  "))) {
         return false;
     }
 

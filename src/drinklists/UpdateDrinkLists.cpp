@@ -1,6 +1,7 @@
 #include "platform/base/Text.h"
 #include "platform/ui/MsgBox.h"
 #include "shell/App.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -23,8 +24,8 @@ void Refuse(const QString& why) {
     MsgBox(why, 48, QStringLiteral("Drinklist Name"));
 }
 
-void TellNotSaved(const REALSQLDatabase& db) {
-    MsgBox(QStringLiteral("An error occurred attempting to save the new drinklist name: ") + db.ErrorMessage());
+bool NameSucceeded(const REALSQLDatabase& db) {
+    return Succeeded(db, QStringLiteral("An error occurred attempting to save the new drinklist name: "));
 }
 
 } // namespace
@@ -40,8 +41,7 @@ bool App::UpdateDrinkLists(const QString& DrinkListName, int& DrinkListID) {
         return false;
     }
     const RecordSet taken = db.SQLSelect(NameTakenStatement(name, DrinkListID));
-    if (db.Error()) {
-        TellNotSaved(db);
+    if (!NameSucceeded(db)) {
         return false;
     }
     if (!taken.Eof()) {
@@ -49,8 +49,7 @@ bool App::UpdateDrinkLists(const QString& DrinkListName, int& DrinkListID) {
         return false;
     }
     db.SQLExecute(SaveStatement(name, DrinkListID));
-    if (db.Error()) {
-        TellNotSaved(db);
+    if (!NameSucceeded(db)) {
         return false;
     }
     if (DrinkListID == 0) {

@@ -1,7 +1,7 @@
-#include "platform/ui/MsgBox.h"
 #include "recipes/NewRecipe.h"
 #include "shell/App.h"
 #include "shell/WindowPlacement.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -52,11 +52,7 @@ void PrepareGrid(Listbox& grid) {
 // False: the user was told.
 bool SelectNames(REALSQLDatabase& db, const NameTable& table, RecordSet& names) {
     names = db.SQLSelect(QString::fromLatin1(table.select));
-    if (db.Error()) {
-        MsgBox(QString::fromLatin1(table.failure) + db.ErrorMessage());
-        return false;
-    }
-    return true;
+    return Succeeded(db, QString::fromLatin1(table.failure));
 }
 
 // The blank first row can be chosen too: a drink needs no type and no glass. Rows are only added, also to those that a
