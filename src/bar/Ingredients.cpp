@@ -7,22 +7,18 @@ namespace {
 
 constexpr Color stripe = Color{0xF1F5FA};
 
-constexpr int textSize = 12;
-
-WindowProperties Properties() {
-    return {
-        .name = "Ingredients",
-        .title = QStringLiteral("Ingredients In Your Bar"),
-        .width = 352,
-        .height = 440,
-        .kind = WindowKind::Floating,
-        .minimizeable = false,
-    };
-}
+const WindowProperties properties = {
+    .name = "Ingredients",
+    .title = QStringLiteral("Ingredients In Your Bar"),
+    .width = 352,
+    .height = 440,
+    .kind = WindowKind::Floating,
+    .minimizeable = false,
+};
 
 } // namespace
 
-Ingredients::Ingredients() : Window(Properties()) {
+Ingredients::Ingredients() : Window(properties) {
     PlaceAll(*this, {
                         {Save, nullptr, {"Save", "", {260, 410, 80, 20}}},
                         {Cancel, nullptr, {"Cancel", "", {168, 410, 80, 20}}},
@@ -34,7 +30,7 @@ Ingredients::Ingredients() : Window(Properties()) {
     StaticText1.SetLook({.textSize = 10});
     StaticText1.SetText(QStringLiteral("Select the ingredients in your home from the list below."));
     IngredientList.SetLook({.hasHeading = true, .useFocusRing = true});
-    IngredientList.SetTextSize(textSize);
+    IngredientList.SetTextSize(12);
     IngredientList.SetDefaultRowHeight(0);
 
     Save.Action = [this] { Save_Action(); };

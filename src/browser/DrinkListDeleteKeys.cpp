@@ -1,18 +1,10 @@
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
+#include "platform/ui/Keyboard.h"
 #include "shell/App.h"
+#include "shell/Confirmed.h"
 #include "shell/MainWindow.h"
 
 namespace {
-
-constexpr int backspaceKey = 8;
-constexpr int deleteKey = 127;
-constexpr int questionWithYesAndNo = 36;
-constexpr int yes = 6;
-
-bool Confirmed(const QString& question) {
-    return MsgBox(question, questionWithYesAndNo, QString()) == yes;
-}
 
 // The count of the drinklist follows at once; a drink that could not be removed is still counted.
 void RemoveSelectedDrinksFrom(int drinkListID, const Listbox& drinks, Listbox& lists) {
@@ -41,7 +33,7 @@ void ChooseList(Listbox& lists, int drinkListID) {
 // drinks it deletes them.
 bool MainWindow::DrinkList_KeyDown(const QString& key) {
     const int code = Asc(key);
-    if (code != backspaceKey && code != deleteKey) {
+    if (code != Keyboard::Backspace && code != Keyboard::Delete) {
         return false;
     }
     App& app = App::Instance();

@@ -1,7 +1,9 @@
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
+#include "platform/ui/Keyboard.h"
 #include "shell/App.h"
+#include "shell/Confirmed.h"
 #include "shell/MainWindow.h"
+#include "store/Succeeded.h"
 
 namespace {
 
@@ -14,8 +16,7 @@ void DeleteSelectedList(const QString& question) {
     if (DrinkListID == 0) {
         return;
     }
-    constexpr int yes = 6;
-    if (MsgBox(question, 36, QString()) != yes || !App::Instance().DeleteDrinkList(DrinkListID)) {
+    if (!Confirmed(question) || !App::Instance().DeleteDrinkList(DrinkListID)) {
         return;
     }
     list.RemoveRow(row);
@@ -33,8 +34,7 @@ bool App::DeleteDrinkList(int DrinkListID) {
     for (const char* table : {"DrinkListXRef", "DrinkLists"}) {
         db.SQLExecute(
             QStringLiteral("DELETE FROM %1 WHERE DrinkListID = %2").arg(QLatin1String(table), CStr(DrinkListID)));
-        if (db.Error()) {
-            MsgBox(QStringLiteral("An error occurred removing drinklist references: ") + db.ErrorMessage());
+        if (!Succeeded(db, QStringLiteral("An error occurred removing drinklist references: "))) {
             return false;
         }
     }
@@ -48,9 +48,7 @@ bool App::_File_DeleteList_Action() {
 }
 
 bool MainWindow::DrinkListsList_KeyDown(const QString& key) {
-    constexpr int backspace = 8;
-    constexpr int forwardDelete = 127;
-    if (Asc(key) == backspace || Asc(key) == forwardDelete) {
+    if (Asc(key) == Keyboard::Backspace || Asc(key) == Keyboard::Delete) {
         DeleteSelectedList(QStringLiteral("Are you sure you want to remove this Drinklist?"));
     }
     return false;

@@ -1,13 +1,10 @@
 #include "platform/base/Text.h"
-#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
+#include "shell/Confirmed.h"
 #include "shell/MainWindow.h"
 #include "store/Succeeded.h"
 
 namespace {
-
-constexpr int questionWithYesAndNo = 36;
-constexpr int yes = 6;
 
 // Runs one statement of a sequence in which each stands once it ran. False: the user was told.
 bool Run(REALSQLDatabase& db, const QString& statement, const QString& failure) {
@@ -71,7 +68,7 @@ bool App::_File_DeleteDrink_Action() {
     const bool several = MainWindow::Instance().DrinkList.SelCount() >= 2;
     const QString question = several ? QStringLiteral("Are you sure you want to remove multiple drinks?")
                                      : QStringLiteral("Are you sure you want to remove the selected drink?");
-    if (MsgBox(question, questionWithYesAndNo, QString()) == yes) {
+    if (Confirmed(question)) {
         // The drinks that were deleted before a failure are gone, and the list has to show that. Both have told the
         // user what went wrong.
         static_cast<void>(DeleteSelectedDrinks());

@@ -1,6 +1,7 @@
 #include "recipes/NewRecipe.h"
 
 #include "platform/base/Text.h"
+#include "platform/ui/Keyboard.h"
 #include "recipes/RecipeGrid.h"
 #include "shell/App.h"
 
@@ -8,19 +9,18 @@
 
 namespace {
 
-constexpr int backspaceKey = 8;
-constexpr int deleteKey = 127;
-
-WindowProperties Properties() {
-    WindowProperties properties = {"NewRecipe", QStringLiteral("New Drink Recipe"), 507, 346};
-    properties.kind = WindowKind::Floating;
-    properties.minimizeable = false;
-    return properties;
-}
+const WindowProperties properties = {
+    .name = "NewRecipe",
+    .title = QStringLiteral("New Drink Recipe"),
+    .width = 507,
+    .height = 346,
+    .kind = WindowKind::Floating,
+    .minimizeable = false,
+};
 
 } // namespace
 
-NewRecipe::NewRecipe() : Window(Properties()) {
+NewRecipe::NewRecipe() : Window(properties) {
     PlaceControls();
     DressControls();
     BindEvents();
@@ -88,7 +88,7 @@ bool NewRecipe::Recipe_KeyDown(const QString& key) {
         return true;
     }
     const int row = Recipe.ListIndex();
-    if (row > -1 && (key == QLatin1String("-") || code == deleteKey || code == backspaceKey)) {
+    if (row > -1 && (key == QLatin1String("-") || code == Keyboard::Delete || code == Keyboard::Backspace)) {
         RemoveIngredient_Action();
         Recipe.SetListIndex(std::min(row, Recipe.ListCount() - 1));
         return true;

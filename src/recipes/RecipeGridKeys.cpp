@@ -10,9 +10,6 @@ using namespace recipegrid;
 
 namespace {
 
-constexpr int tabKey = 9;
-constexpr int upKey = 30;
-constexpr int downKey = 31;
 constexpr int firstPrintable = 32;
 // The tilde and all characters behind it are the editor's.
 constexpr int lastPrintable = 125;
@@ -48,13 +45,13 @@ void Complete(EditField& cell, const QStringList& names, const QString& key) {
 bool NewRecipe::Recipe_CellKeyDown(int row, int column, const QString& key) {
     const int code = Asc(key);
     EditField& cell = *Recipe.ActiveCell();
-    if (code == tabKey && Keyboard::AsyncShiftKey()) {
+    if (code == Keyboard::Tab && Keyboard::AsyncShiftKey()) {
         if (column > 0) {
             Recipe.EditCell(row, column - 1);
         }
         return column > 0;
     }
-    if (code == tabKey) {
+    if (code == Keyboard::Tab) {
         GoForward(Recipe, row, column);
         return true;
     }
@@ -63,11 +60,11 @@ bool NewRecipe::Recipe_CellKeyDown(int row, int column, const QString& key) {
         return true;
     }
     // The arrows step through the ingredients in every column, also in that of the units.
-    if (code == downKey) {
+    if (code == Keyboard::Down) {
         cell.SetText(NextName(IngredientNames, cell.Text()));
         return true;
     }
-    if (code == upKey) {
+    if (code == Keyboard::Up) {
         cell.SetText(PreviousName(IngredientNames, cell.Text()));
         return true;
     }
