@@ -56,10 +56,6 @@ void Date::SetDay(int day) {
     SetParts(Year(), Month(), day);
 }
 
-QString Date::SQLDate() const {
-    return day_.toString(QStringLiteral("yyyy-MM-dd"));
-}
-
 void Date::SetSQLDate(const QString& text) {
     const QDate day = ReadSQLDate(text);
     day_ = day.isValid() ? day : FirstDay();

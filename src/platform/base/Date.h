@@ -18,9 +18,6 @@ public:
     void SetMonth(int month);
     void SetDay(int day);
 
-    // "2009-03-07": year, month and day, padded with zeros.
-    QString SQLDate() const;
-
     // Takes year, month and day joined by "-", padded with zeros or not, with white space around it allowed, and
     // sets the time of day to midnight. Any other text, the empty one of a NULL column too, sets 1904-01-01: a
     // date so old that whatever is to be done at intervals since then is due.

@@ -74,16 +74,8 @@ TCPSocket::~TCPSocket() {
     state_->socket.disconnect();
 }
 
-QString TCPSocket::Address() const {
-    return state_->address;
-}
-
 void TCPSocket::SetAddress(const QString& address) {
     state_->address = address;
-}
-
-int TCPSocket::Port() const {
-    return state_->port;
 }
 
 void TCPSocket::SetPort(int port) {

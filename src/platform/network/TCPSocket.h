@@ -37,9 +37,7 @@ public:
     std::function<void()> Error;
 
     // The host, as a name or a number, and the port, 1 to 65535, that Connect goes to.
-    [[nodiscard]] QString Address() const;
     void SetAddress(const QString& address);
-    [[nodiscard]] int Port() const;
     void SetPort(int port);
 
     // Ends a connection that there is, and begins a new one with the next turn of an event loop.

@@ -21,10 +21,6 @@ void Graphics::SetForeColor(Color color) {
     painter_.setPen(QColor(QRgb(color.rgb)));
 }
 
-Color Graphics::ForeColor() const {
-    return foreColor_;
-}
-
 void Graphics::SetBold(bool bold) {
     QFont font = painter_.font();
     font.setBold(bold);

@@ -17,7 +17,6 @@ public:
     [[nodiscard]] int Height() const;
 
     void SetForeColor(Color color);
-    [[nodiscard]] Color ForeColor() const;
     void SetBold(bool bold);
     // "System" is the platform's own font.
     void SetTextFont(const QString& family);

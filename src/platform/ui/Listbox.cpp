@@ -224,10 +224,6 @@ void Listbox::SetTextFont(const QString& family) {
     view_->setFont(fonts::WithFamily(view_->font(), family));
 }
 
-int Listbox::ScrollPosition() const {
-    return view_->verticalScrollBar()->value() / view_->RowHeight();
-}
-
 void Listbox::SetScrollPosition(int row) {
     model_->Announce();
     // The bar learns its range with the layout, which otherwise comes with the next paint.

@@ -143,8 +143,7 @@ public:
     void SetTextSize(int pixels);
     void SetTextFont(const QString& family);
 
-    // The first row in view. Setting it beyond the end scrolls to the end.
-    [[nodiscard]] int ScrollPosition() const;
+    // Makes this the first row in view. One beyond the end scrolls to the end.
     void SetScrollPosition(int row);
     // The row at a point, or -1 where there is none.
     [[nodiscard]] int RowFromXY(int x, int y) const;

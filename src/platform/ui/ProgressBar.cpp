@@ -13,10 +13,6 @@ void ProgressBar::SetMaximum(int maximum) {
     static_cast<QProgressBar*>(Widget())->setMaximum(maximum);
 }
 
-int ProgressBar::Value() const {
-    return static_cast<QProgressBar*>(Widget())->value();
-}
-
 void ProgressBar::SetValue(int value) {
     static_cast<QProgressBar*>(Widget())->setValue(value);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

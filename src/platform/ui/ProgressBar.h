@@ -8,7 +8,6 @@ public:
     ProgressBar();
 
     void SetMaximum(int maximum);
-    [[nodiscard]] int Value() const;
     // From 0 to the maximum. The bar is drawn at once, although the task lets no other event through: the events that
     // put a window on the screen are served, keys and clicks wait.
     void SetValue(int value);

@@ -105,10 +105,6 @@ void Window::SetHeight(int height) {
     state_->frame->LayOut();
 }
 
-QString Window::Title() const {
-    return state_->frame->windowTitle();
-}
-
 void Window::SetTitle(const QString& title) {
     state_->frame->setWindowTitle(title);
 }

@@ -68,7 +68,6 @@ public:
     void SetWidth(int width);
     void SetHeight(int height);
 
-    [[nodiscard]] QString Title() const;
     void SetTitle(const QString& title);
     // A document window shows the menu bar; a floating one has its shortcuts.
     void SetMenuBar(MenuBar& menuBar);
