@@ -11,10 +11,8 @@ bool ContinuesTheLineBefore(const QString& line) {
 }
 
 QStringList JoinedLines(const QString& source) {
-    const QString lineEnd = EndOfLine::Unix();
-    const QString text = ReplaceAll(ReplaceAll(source, EndOfLine::Windows(), lineEnd), EndOfLine::Macintosh(), lineEnd);
     QStringList lines;
-    for (const QString& line : text.split(lineEnd)) {
+    for (const QString& line : WithLineFeeds(source).split(EndOfLine::Unix())) {
         if (ContinuesTheLineBefore(line) && !lines.isEmpty()) {
             lines.back() += QLatin1Char(' ') + Trim(line);
         } else {

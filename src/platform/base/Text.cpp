@@ -113,3 +113,8 @@ QString EndOfLine::Windows() {
 QString EndOfLine::Unix() {
     return QStringLiteral("\n");
 }
+
+QString WithLineFeeds(const QString& text) {
+    return ReplaceAll(ReplaceAll(text, EndOfLine::Windows(), EndOfLine::Unix()), EndOfLine::Macintosh(),
+                      EndOfLine::Unix());
+}

@@ -53,3 +53,6 @@ QString Macintosh(); // carriage return
 QString Windows();   // carriage return, line feed
 QString Unix();      // line feed
 } // namespace EndOfLine
+
+// The text with a line feed in the place of each line end, of whatever platform.
+QString WithLineFeeds(const QString& text);

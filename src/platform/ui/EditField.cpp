@@ -1,5 +1,6 @@
 #include "platform/ui/EditField.h"
 
+#include "platform/base/Text.h"
 #include "platform/ui/Events.h"
 #include "platform/ui/FieldEvents.h"
 #include "platform/ui/Fonts.h"
@@ -33,10 +34,6 @@ public:
 };
 
 namespace {
-
-QString WithLineFeeds(QString text) {
-    return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-}
 
 // Gives a field of one line the text that the user pasted with blanks for its line breaks.
 void PasteAsOneLine(QLineEdit& edit, QString text) {

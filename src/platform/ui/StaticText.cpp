@@ -1,5 +1,6 @@
 #include "platform/ui/StaticText.h"
 
+#include "platform/base/Text.h"
 #include "platform/ui/Events.h"
 #include "platform/ui/Fonts.h"
 #include "platform/ui/Spoken.h"
@@ -9,8 +10,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
-
-#include <algorithm>
 
 class StaticText::Label : public QLabel, public Spoken {
 public:
@@ -119,9 +118,7 @@ QString StaticText::Text() const {
 }
 
 void StaticText::SetText(const QString& text) {
-    QString lines = text;
-    label_->setText(
-        lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n')));
+    label_->setText(WithLineFeeds(text));
     label_->FitPlace();
 }
 
