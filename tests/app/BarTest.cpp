@@ -3,7 +3,6 @@
 #include "platform/ui/Picture.h"
 
 #include <QPushButton>
-#include <QTest>
 
 // Two kinds of whiskey, one of them with a kind of its own; gin and lime; and one whose parent is not there.
 class BarTest : public PourbookTest {
@@ -22,14 +21,8 @@ protected:
                 " BEGIN SELECT RAISE(FAIL, 'no limes'); END");
     }
 
-    void Click(class Window& window, const char* list, int row, int column) {
-        QCoreApplication::processEvents();
-        auto* view = window.Widget()->findChild<QTableView*>(QString(list));
-        const QPoint middle = view->visualRect(view->model()->index(row, column)).center();
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, middle);
-    }
-    void ClickBar(int row, int column) { Click(Window(), "InBarList", row, column); }
-    void Tick(int row) { Click(Ingredients::Instance(), "IngredientList", row, 0); }
+    void ClickBar(int row, int column) { ClickCell(*Find<QTableView>("InBarList"), row, column, 10); }
+    void Tick(int row) { ClickCell(*Ingredients::Instance().Widget()->findChild<QTableView*>(), row, 0, 20); }
     void Press(const char* button) {
         Ingredients::Instance().Widget()->findChild<QPushButton*>(QString(button))->click();
     }
@@ -48,17 +41,13 @@ protected:
     [[nodiscard]] QString Ticks() { return Rows(Ingredients::Instance().IngredientList); }
 };
 
-TEST_F(BarTest, AClickAnywhereOnARowFlipsItAndTheMatchFollowsAtOnce) {
-    EXPECT_EQ(Bar(), "+Gin| Lime|+Orphan|+Rye");
+TEST_F(BarTest, AClickAnywhereOnARowFlipsItAndTheMatchFollowsEvenAChangeThatFails) {
     ClickBar(0, 1);
     EXPECT_EQ(Bar(), " Gin| Lime|+Orphan|+Rye");
     EXPECT_EQ(ListedDrinks(), "Gimlet") << "without the match the drinks stay";
     TickMatch(true);
-    EXPECT_EQ(ListedDrinks(), "");
     ClickBar(0, 0);
     EXPECT_EQ(ListedDrinks(), "Gimlet");
-
-    // A change that fails lists the drinks all the same.
     Execute("UPDATE Ingredients SET Empty = 1 WHERE IngredientID = 5");
     GivenRefusal("Empty = 0");
     AnswerNextMessage();

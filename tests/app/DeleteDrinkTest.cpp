@@ -32,11 +32,10 @@ protected:
 };
 
 TEST_F(DeleteDrinkTest, FromAllDrinksTheKeysDeleteWithWhatNothingElseNeeds) {
-    const QString before = Library();
     ClickDrink(0, 1, 20);
     Delete(Qt::Key_Delete, QMessageBox::No);
     EXPECT_EQ(LastMessage().text, "Are you sure you want to delete the selected drink(s)?");
-    EXPECT_EQ(Library(), before);
+    EXPECT_EQ(Library(), "1,2,3/1,1,2,2/1,2/1-1,1-2,2-1");
     QTest::keyClick(Find<QTableView>("DrinkList"), Qt::Key_H, Qt::ControlModifier);
     Delete(Qt::Key_Backspace, QMessageBox::Yes);
     EXPECT_EQ(Library(), "2,3/2,2/1/1-2") << "gin is still needed";

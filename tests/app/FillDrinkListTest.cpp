@@ -63,36 +63,22 @@ TEST_F(FillDrinkListTest, ADrinklistFiltersAloneAndTogetherWithTheSearch) {
     EXPECT_EQ(ListedDrinks(), "") << "nothing is in the bar";
 }
 
-TEST_F(FillDrinkListTest, RowsCarryIdAndPictureOfTheRating) {
-    Start();
-    const std::pair<int, const char*> rows[] = {{4, "Rating0"}, {2, "Rating0"}, {1, "Rating3"}, {3, "Rating0"}};
-    for (int row = 0; row < 4; ++row) {
-        EXPECT_EQ(Window().DrinkList.CellTag(row, 0), rows[row].first);
-        EXPECT_EQ(Window().DrinkList.RowPicture(row)->Name(), rows[row].second) << row;
-    }
-}
-
 TEST_F(FillDrinkListTest, TheViewMenuChoosesTheColumns) {
     Execute("UPDATE Drinks SET DrinkTypeID = (SELECT DrinkTypeID FROM DrinkTypes WHERE DrinkTypeName = 'Shot'), "
             "GlassTypeID = (SELECT GlassTypeID FROM GlassTypes WHERE GlassTypeName = 'Collins') WHERE DrinkID = 3");
     Start();
-    struct Toggle {
-        const char* item;
-        const char* headings;
-        const char* zombie;
-        std::vector<int> widths; // without the ingredients, which take the rest
-    };
-    const Toggle toggles[] = {
+    const std::tuple<const char*, const char*, const char*, std::vector<int>> toggles[] = {
+        // column, headings, Zombie's row, and the widths without that of the ingredients, which take the rest
         {"Glass", "Rating,Cocktail,Ingredients,Glass", ",Zombie,Rum,Collins", {65, 180, 90}},
         {"DrinkType", "Rating,Cocktail,Ingredients,Type,Glass", ",Zombie,Rum,Shot,Collins", {65, 180, 90, 70}},
         {"Glass", "Rating,Cocktail,Ingredients,Type", ",Zombie,Rum,Shot", {65, 180, 70}},
         {"Ratings", "Cocktail,Ingredients,Type", "Zombie,Rum,Shot", {180, 70}},
         {"DrinkType", "Cocktail,Ingredients", "Zombie,Rum", {180}},
     };
-    for (const Toggle& toggle : toggles) {
+    for (const auto& [toggled, headings, zombie, columnWidths] : toggles) {
         Window().DrinkList.SetListIndex(3);
-        Choose(QString("View_%1Column").arg(toggle.item));
-        EXPECT_EQ(Headings(), toggle.headings);
+        Choose(QString("View_%1Column").arg(toggled));
+        EXPECT_EQ(Headings(), headings);
         QStringList cells;
         std::vector<int> widths;
         for (int column = 0; column < Window().DrinkList.ColumnCount(); ++column) {
@@ -101,8 +87,8 @@ TEST_F(FillDrinkListTest, TheViewMenuChoosesTheColumns) {
                 widths.push_back(Find<QTableView>("DrinkList")->columnWidth(column));
             }
         }
-        EXPECT_EQ(cells.join(","), toggle.zombie);
-        EXPECT_EQ(widths, toggle.widths) << toggle.headings;
+        EXPECT_EQ(cells.join(","), zombie);
+        EXPECT_EQ(widths, columnWidths) << headings;
         EXPECT_EQ(Window().DrinkList.CellTag(3, 0), 3);
         EXPECT_TRUE(PanelIsBlank()) << "the selection went with the rows";
     }
@@ -125,20 +111,33 @@ TEST_F(FillDrinkListTest, ADamagedFileIsToldAndTheProgramRunsOn) {
     EXPECT_EQ(ListedDrinks(), all) << "the rows stay";
 }
 
-TEST_F(FillDrinkListTest, AHeadingSortsUntilTheNextRefill) {
+TEST_F(FillDrinkListTest, AHeadingSortsRowsWithAllThatIsTheirsUntilTheNextRefill) {
+    GivenDrink(5, "Élixir", "Cognac", "UserRating = 5");
     Start();
+    Listbox& list = Window().DrinkList;
     auto* header = Find<QTableView>("DrinkList")->horizontalHeader();
     const auto clickHeading = [&](int column) {
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                           QPoint(header->sectionViewportPosition(column) + 10, header->height() / 2));
     };
     clickHeading(0);
-    EXPECT_EQ(ListedDrinks(), "Planter's Punch|100% Rum|alexander|Zombie") << "most stars first";
+    EXPECT_EQ(ListedDrinks(), "Élixir|Planter's Punch|100% Rum|alexander|Zombie") << "most stars first";
+    ClickDrink(1, 1, 20);
+    ClickDrink(4, 1, 20, Qt::ControlModifier);
     clickHeading(1);
+    EXPECT_EQ(ListedDrinks(), "100% Rum|alexander|Élixir|Planter's Punch|Zombie");
+    EXPECT_TRUE(list.SelCount() == 2 && list.Selected(3) && list.Selected(4)) << "the same drinks";
     clickHeading(1);
-    EXPECT_EQ(ListedDrinks(), "Zombie|Planter's Punch|alexander|100% Rum");
+    const std::pair<int, const char*> rows[] = {
+        {3, "Rating0"}, {1, "Rating3"}, {5, "Rating5"}, {2, "Rating0"}, {4, "Rating0"}};
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(list.CellTag(row, 0), rows[row].first);
+        EXPECT_EQ(list.RowPicture(row)->Name(), rows[row].second) << row;
+    }
     ASSERT_TRUE(Program().FillDrinkList());
-    EXPECT_EQ(ListedDrinks(), all);
+    EXPECT_EQ(ListedDrinks(), all + "|Élixir");
+    clickHeading(1);
+    EXPECT_EQ(ListedDrinks(), "100% Rum|alexander|Élixir|Planter's Punch|Zombie") << "a first click again";
 }
 
 TEST_F(FillDrinkListTest, AFilterMayBeLargerThanAStatementCanName) {

@@ -2,16 +2,9 @@
 
 namespace {
 
-// Whiskey (1) over Rye (2) and Canadian (3), and on their own Lime (4) and Gin (5).
-struct Case {
-    const char* name;
-    const char* inBar;
-    const char* empty;
-    const char* required;
-    const char* optional;
-    int ingredientCount;
-    bool makeable;
-};
+// What is in the bar, what of it is empty, the required and the optional rows of the recipe, their count, and whether
+// it can be made. Whiskey (1) stands over Rye (2) and Canadian (3), and on their own Lime (4) and Gin (5).
+using Case = std::tuple<const char*, const char*, const char*, const char*, const char*, int, bool>;
 
 const Case cases[] = {
     {"nothing in the bar", "", "", "4", "", 1, false},
@@ -66,11 +59,11 @@ TEST_F(MatchTest, ListsJustTheDrinksThatCanBeMade) {
     GivenRecipe(8, "3, 4", "", 2);
     Start();
     TickMatch(true);
-    for (const Case& row : cases) {
-        GivenBar(row.inBar, row.empty);
-        GivenRecipe(7, row.required, row.optional, row.ingredientCount);
+    for (const auto& [name, inBar, empty, required, optional, ingredientCount, makeable] : cases) {
+        GivenBar(inBar, empty);
+        GivenRecipe(7, required, optional, ingredientCount);
         ASSERT_TRUE(Program().FillDrinkList());
-        EXPECT_EQ(ListedDrinks(), row.makeable ? "Subject" : "") << row.name;
+        EXPECT_EQ(ListedDrinks(), makeable ? "Subject" : "") << name;
         EXPECT_EQ(Headings(), "Rating,Cocktail,Ingredients");
     }
 }

@@ -47,10 +47,8 @@ protected:
     }
     [[nodiscard]] QString Grid() {
         QString text;
-        for (int row = 0; row < Form().Recipe.ListCount(); ++row) {
-            for (int column = 0; column < 5; ++column) {
-                text += Form().Recipe.Cell(row, column) + (column < 4 ? "|" : "/");
-            }
+        for (int cell = 0; cell < 5 * Form().Recipe.ListCount(); ++cell) {
+            text += Form().Recipe.Cell(cell / 5, cell % 5) + (cell % 5 < 4 ? "|" : "/");
         }
         return text;
     }

@@ -102,9 +102,14 @@ void PourbookTest::Choose(const QString& menuItem) {
 }
 
 void PourbookTest::ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers) {
-    auto* list = Find<QTableView>("DrinkList");
-    const QRect cell = list->visualRect(list->model()->index(row, column));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, QPoint(cell.left() + x, cell.center().y()));
+    ClickCell(*Find<QTableView>("DrinkList"), row, column, x, modifiers);
+}
+
+// The screen learns late of rows that were just added.
+void PourbookTest::ClickCell(QTableView& list, int row, int column, int x, Qt::KeyboardModifiers modifiers) {
+    QCoreApplication::processEvents();
+    const QRect cell = list.visualRect(list.model()->index(row, column));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, QPoint(cell.left() + x, cell.center().y()));
 }
 
 QString PourbookTest::ListedDrinks() {

@@ -35,7 +35,9 @@ protected:
     void Search(const QString& text);
     void TickMatch(bool ticked);
     void Choose(const QString& menuItem);
+    // x is within the cell.
     void ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    static void ClickCell(QTableView& list, int row, int column, int x, Qt::KeyboardModifiers modifiers = {});
     void CloseWindow() { Window().Widget()->close(); }
 
     // Then: what the user sees.

@@ -2,18 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-struct Case {
-    const char* quantity;
-    const char* unit;
-    const char* shown;
-};
-
-} // namespace
-
 TEST(QuantityText, ReadsTheDigitsBehindThePointAsAWholeNumber) {
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"0", "oz", "oz"},           {"0", "", ""},
         {"2", "oz", "2 oz"},         {"", "dash", " dash"},
         {"0.5", "oz", "1/2 oz"},     {"1.5", "oz", "1 1/2 oz"},
@@ -27,7 +17,7 @@ TEST(QuantityText, ReadsTheDigitsBehindThePointAsAWholeNumber) {
         {"1.2.5", "oz", "1 1/5 oz"}, {" 1.5 ", "oz", "1 1/2 oz"},
         {"1.5", "", "1 1/2 "},
     };
-    for (const Case& row : cases) {
-        EXPECT_EQ(QuantityText(QString(row.quantity), QString(row.unit)), row.shown) << "for " << row.quantity;
+    for (const auto& [quantity, unit, shown] : cases) {
+        EXPECT_EQ(QuantityText(QString(quantity), QString(unit)), shown) << "for " << quantity;
     }
 }

@@ -19,8 +19,8 @@ protected:
                     .arg(ingredient, quantity, unit));
     }
 
-    [[nodiscard]] QString Quantities() { return Window().DrinkQuantities.Text(); }
-    [[nodiscard]] QString Ingredients() { return Window().DrinkIngredients.Text(); }
+    // The two columns of the recipe that is shown, with a bar between them.
+    [[nodiscard]] QString Recipe() { return Window().DrinkQuantities.Text() + "|" + Window().DrinkIngredients.Text(); }
     [[nodiscard]] QString Glass() {
         const Picture* glass = Window().GlassImage.Backdrop();
         return glass == nullptr ? "none" : glass->Name();
@@ -34,11 +34,10 @@ TEST_F(RecipePanelTest, UpToSixRowsStandDoubleSpacedAndSevenSingle) {
     }
     Start();
     Program().ShowDrinkInfo(1);
-    EXPECT_EQ(Quantities(), QString("1 1/2 oz -\n\n").repeated(6));
-    EXPECT_EQ(Ingredients(), QString("Gin\n\n").repeated(6));
+    EXPECT_EQ(Recipe(), QString("1 1/2 oz -\n\n").repeated(6) + "|" + QString("Gin\n\n").repeated(6));
     GivenRecipeRow(1, 7, "1", "NULL", "dash");
     Program().ShowDrinkInfo(1);
-    EXPECT_EQ(Quantities(), QString("1 1/2 oz -\n").repeated(6) + " dash -\n");
+    EXPECT_EQ(Recipe(), QString("1 1/2 oz -\n").repeated(6) + " dash -\n|" + QString("Gin\n").repeated(7));
 }
 
 TEST_F(RecipePanelTest, RowsComeInTheOrderOfTheirStepsAndWithoutLostIngredients) {
@@ -48,35 +47,30 @@ TEST_F(RecipePanelTest, RowsComeInTheOrderOfTheirStepsAndWithoutLostIngredients)
     GivenRecipeRow(1, 3, "77", "'1'", "oz");
     Start();
     Program().ShowDrinkInfo(1);
-    EXPECT_EQ(Quantities(), ".50  -\n\n -\n\n");
-    EXPECT_EQ(Ingredients(), "Farmer's <b>Milk</b> from the cow behind the hill\n\nGin\n\n");
+    EXPECT_EQ(Recipe(), ".50  -\n\n -\n\n|Farmer's <b>Milk</b> from the cow behind the hill\n\nGin\n\n");
     EXPECT_EQ(Window().DrinkInstructions.Text(), "Drink water.");
     // A quantity is of use only beside its ingredient, so a long name must not wrap.
     EXPECT_EQ(Find<QTextEdit>("DrinkQuantities")->document()->size().height(),
               Find<QTextEdit>("DrinkIngredients")->document()->size().height());
 }
 
-TEST_F(RecipePanelTest, TheTypeIsGreyBehindABoldLabel) {
-    GivenDrink(1, "Typed", {}, "DrinkTypeID = (SELECT DrinkTypeID FROM DrinkTypes WHERE DrinkTypeName = 'Shot')");
-    Start();
-    Program().ShowDrinkInfo(1);
-    EXPECT_EQ(Window().DrinkType.Text(), "Drink Type:  Shot");
-    QTextCursor cursor(Find<QTextEdit>("DrinkType")->document());
-    cursor.setPosition(11);
-    EXPECT_TRUE(cursor.charFormat().font().bold());
-    cursor.setPosition(14);
-    EXPECT_FALSE(cursor.charFormat().font().bold());
-    EXPECT_EQ(cursor.charFormat().foreground().color(), QColor(0x666666));
-}
-
-TEST_F(RecipePanelTest, AGlassWithoutPictureLeavesTheOneBefore) {
-    GivenDrink(1, "Collins", {}, "GlassTypeID = (SELECT GlassTypeID FROM GlassTypes WHERE GlassTypeName = 'HighBall')");
+TEST_F(RecipePanelTest, TheTypeIsGreyBehindItsLabelAndAGlassWithoutPictureLeavesTheOneBefore) {
+    GivenDrink(1, "Collins", {},
+               "GlassTypeID = (SELECT GlassTypeID FROM GlassTypes WHERE GlassTypeName = 'HighBall'), "
+               "DrinkTypeID = (SELECT DrinkTypeID FROM DrinkTypes WHERE DrinkTypeName = 'Shot')");
     GivenDrink(2, "None", {}, "GlassTypeID = 0");
     Start();
     Program().ShowDrinkInfo(2);
     EXPECT_EQ(Glass(), "none");
     Program().ShowDrinkInfo(1);
     EXPECT_EQ(Glass(), "Glass_Highball");
+    EXPECT_EQ(Window().DrinkType.Text(), "Drink Type:  Shot");
+    QTextCursor cursor(Find<QTextEdit>("DrinkType")->document());
+    for (const int place : {11, 14}) {
+        cursor.setPosition(place);
+        EXPECT_EQ(cursor.charFormat().font().bold(), place == 11);
+    }
+    EXPECT_EQ(cursor.charFormat().foreground().color(), QColor(0x666666));
     Program().ShowDrinkInfo(2);
     EXPECT_EQ(Glass(), "Glass_Highball");
     Program().ClearDrinkInfo();

@@ -5,40 +5,33 @@
 class StartTest : public PourbookTest {};
 
 TEST_F(StartTest, ClosingStoresWindowAndOptionsAndTheNextStartRestoresThem) {
-    Start();
-    Choose("View_GlassColumn");
-    Choose("View_DrinkTypeColumn");
-    Window().SetLeft(-60);
-    Window().SetTop(-40);
-    Window().SetWidth(900);
-    Window().SetHeight(700);
-    CloseWindow();
-    EXPECT_TRUE(Runtime::HasQuit());
-    EXPECT_EQ(Value("SELECT AppWidth || ' ' || AppHeight || ' ' || AppLeft || ' ' || AppTop || ' ' || "
-                    "UserOptions || ' ' || DBVersion FROM Setup"),
-              "900 700 -60 -40 V02V01V03V04V05 2");
-
-    Start();
-    EXPECT_EQ(Window().Left(), -60);
-    EXPECT_EQ(Window().Top(), -40);
-    EXPECT_EQ(Window().Width(), 900);
-    EXPECT_EQ(Window().Height(), 700);
-    EXPECT_EQ(Headings(), "Rating,Cocktail,Ingredients,Type,Glass");
-    EXPECT_EQ(Program().ApplicationMenuBar().Item("View_DrinkTypeColumn").Text(), "Hide Drink Type Column");
-    // The list of ingredients reaches down to the tools in a window of any height.
-    EXPECT_EQ(Window().InBarList.Top() + Window().InBarList.Height(), Window().SideTools.Top() + 1);
-}
-
-TEST_F(StartTest, AllOptionsOffAreStoredAsTheEmptyText) {
     GivenUserFile();
+    // Codes may be of any case and stand among others. A height of NULL reads as 0 and is bounded by the window.
     Execute("UPDATE Setup SET AppWidth = 760, AppHeight = NULL, UserOptions = 'V9v01xV02'");
     Start();
     EXPECT_EQ(Headings(), "Rating,Cocktail,Ingredients,Glass");
-    EXPECT_EQ(Window().Height(), 500) << "a height of NULL reads as 0 and is bounded by the window";
+    EXPECT_EQ(Window().Height(), 500);
     Choose("View_RatingsColumn");
     Choose("View_GlassColumn");
     CloseWindow();
+    EXPECT_TRUE(Runtime::HasQuit());
     EXPECT_EQ(Value("SELECT quote(UserOptions) FROM Setup"), "''");
+
+    Start();
+    for (const char* column : {"View_RatingsColumn", "View_GlassColumn", "View_DrinkTypeColumn"}) {
+        Choose(column);
+    }
+    Program().Option_ShareRatings = true;
+    Window().SetWidth(900);
+    Window().SetHeight(700);
+    CloseWindow();
+    EXPECT_EQ(Value("SELECT AppWidth || ' ' || AppHeight || ' ' || UserOptions FROM Setup"), "900 700 V02V01V03V05");
+    Start();
+    EXPECT_EQ(Headings(), "Rating,Cocktail,Ingredients,Type,Glass");
+    EXPECT_EQ(Program().ApplicationMenuBar().Item("View_DrinkTypeColumn").Text(), "Hide Drink Type Column");
+    EXPECT_EQ(Window().Width() + Window().Height(), 1600);
+    // The list of ingredients reaches down to the tools in a window of any height.
+    EXPECT_EQ(Window().InBarList.Top() + Window().InBarList.Height(), Window().SideTools.Top() + 1);
 }
 
 TEST_F(StartTest, AClosedWindowWithoutConnectionWritesNothingAndEnds) {

@@ -62,21 +62,15 @@ TEST(Seed, AgreesWithItselfAndBelongsToNobodyYet) {
     // Each finds what is wrong.
     const char* const searches[] = {
         "SELECT 'too few drinks' WHERE (SELECT COUNT(*) FROM Drinks) < 640",
-        "SELECT DrinkID FROM DrinkRecipes WHERE IFNULL(DrinkID, 0) NOT IN (SELECT DrinkID FROM Drinks) OR "
-        "IFNULL(IngredientID, 0) NOT IN (SELECT IngredientID FROM Ingredients) OR "
-        "UofMID NOT IN (SELECT UofMID FROM UnitsOfMeasure)",
-        "SELECT DrinkName FROM Drinks WHERE IFNULL(DrinkTypeID, 0) NOT IN (SELECT DrinkTypeID FROM DrinkTypes) OR "
-        "IFNULL(GlassTypeID, 0) NOT IN (SELECT GlassTypeID FROM GlassTypes)",
         "SELECT IngredientName FROM Ingredients WHERE IngredientParentID IS NOT NULL AND IngredientParentID NOT IN "
         "(SELECT IngredientID FROM Ingredients WHERE IngredientParentID IS NULL)",
-        "SELECT DrinkName FROM Drinks GROUP BY DrinkName HAVING COUNT(*) > 1",
         "SELECT GlassTypeName FROM GlassTypes WHERE GlassTypeID NOT IN (SELECT GlassTypeID FROM Drinks)",
         "SELECT DrinkName FROM Drinks AS D WHERE IngredientCount < 1 OR IngredientCount IS NOT (SELECT COUNT(*) FROM "
         "DrinkRecipes AS R WHERE R.DrinkID = D.DrinkID AND R.Required != 0)",
         "SELECT DrinkName FROM Drinks AS D WHERE IngredientList IS NOT (SELECT group_concat(IngredientName, ', ') FROM "
         "(SELECT IngredientName FROM DrinkRecipes AS R JOIN Ingredients USING (IngredientID) WHERE R.DrinkID = "
         "D.DrinkID ORDER BY R.RecipeStep))",
-        // Names are compared without regard to case.
+        // Names are compared in any case.
         "SELECT DrinkName FROM Drinks WHERE DrinkName != upper(DrinkName)",
         "SELECT IngredientName FROM Ingredients WHERE IngredientName != upper(IngredientName)",
         // The recipe panel reads the digits as they were written, so a column of numbers would not do.

@@ -2,11 +2,6 @@
 
 #include <QElapsedTimer>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-
 namespace {
 
 TEST_F(DatabaseTest, ConnectFailsWithTheEnginesWordsAndChangesNoFile) {
@@ -16,14 +11,8 @@ TEST_F(DatabaseTest, ConnectFailsWithTheEnginesWordsAndChangesNoFile) {
     const QByteArray plain = Bytes(plainPath);
     const QByteArray whole = Bytes(Path());
     QFile file(Path());
-    struct Case {
-        const char* name;
-        QByteArray contents;
-        const char* key;
-        const char* words;
-    };
     const char* notADatabase = "file is encrypted or is not a database";
-    const Case cases[] = {
+    const std::tuple<const char*, QByteArray, const char*, const char*> cases[] = {
         {"empty", "", "MerryMead246", notADatabase},
         {"empty without key", "", "", notADatabase},
         {"shorter than a salt", "abc", "MerryMead246", notADatabase},
@@ -34,28 +23,21 @@ TEST_F(DatabaseTest, ConnectFailsWithTheEnginesWordsAndChangesNoFile) {
         {"key for a plain file", plain, "MerryMead246", notADatabase},
         {"plain file", plain, "", ""},
     };
-    for (const Case& row : cases) {
+    for (const auto& [name, contents, key, words] : cases) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(row.contents);
+        file.write(contents);
         file.close();
-        database_.SetEncryptionKey(row.key);
-        EXPECT_EQ(database_.Connect(), *row.words == '\0') << row.name;
-        EXPECT_EQ(database_.ErrorMessage(), QString(row.words)) << row.name;
-        EXPECT_EQ(file.size(), row.contents.size()) << row.name;
+        database_.SetEncryptionKey(key);
+        EXPECT_EQ(database_.Connect(), *words == '\0') << name;
+        EXPECT_EQ(database_.ErrorMessage(), QString(words)) << name;
+        EXPECT_EQ(file.size(), contents.size()) << name;
     }
+    EXPECT_FALSE(database_.CreateDatabaseFile());
+    EXPECT_EQ(database_.ErrorMessage(), QString("File exists"));
     ASSERT_TRUE(file.remove());
     EXPECT_FALSE(database_.Connect());
     EXPECT_EQ(database_.ErrorMessage(), QString("unable to open database file"));
     EXPECT_FALSE(File().Exists());
-}
-
-TEST_F(DatabaseTest, OneObjectConnectsAgainToReplacedFile) {
-    database_.Close();
-    // A new file has a new salt, so the key derived for the old one must not be used for it.
-    ASSERT_TRUE(QFile::remove(Path()));
-    GivenLibrary();
-    ASSERT_TRUE(database_.Connect()) << database_.ErrorMessage().toStdString();
-    EXPECT_EQ(DrinkCount(database_), QString("2"));
 }
 
 // The foreign key shows which of the two a connect goes by.
@@ -87,38 +69,6 @@ TEST_F(DatabaseTest, FileHeldByAnotherFailsAfterShortWait) {
     EXPECT_EQ(database_.ErrorMessage(), QString("database is locked"));
     EXPECT_GE(watch.elapsed(), 500);
     EXPECT_LT(watch.elapsed(), 5000);
-}
-
-TEST_F(DatabaseTest, KillLosesNothingThatWasClosed) {
-    database_.Close();
-    for (int round = 0; round < 5; ++round) {
-        int report[2];
-        ASSERT_EQ(pipe(report), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            // Tells of each rating after `Close`.
-            for (int rating = 1; !HasFailure(); ++rating) {
-                Open(database_);
-                Run(database_, QStringLiteral("UPDATE Drinks SET UserRating = %1").arg(rating));
-                database_.Close();
-                EXPECT_EQ(write(report[1], &rating, sizeof rating), ssize_t(sizeof rating));
-            }
-            _exit(1);
-        }
-        close(report[1]);
-        int told = 0;
-        while (told < 20 + round) {
-            ASSERT_EQ(read(report[0], &told, sizeof told), ssize_t(sizeof told));
-        }
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        close(report[0]);
-
-        Open(database_);
-        EXPECT_GE(Value(database_, "(SELECT MIN(UserRating) FROM Drinks)").toInt(), told);
-        EXPECT_EQ(Value(database_, "(SELECT MAX(UserRating) - MIN(UserRating) FROM Drinks)"), QString("0"));
-        database_.Close();
-    }
 }
 
 } // namespace

@@ -24,11 +24,4 @@ TEST_F(DatabaseTest, NothingOnTheDiskIsReadableOrOpenToOthers) {
     }
 }
 
-TEST_F(DatabaseTest, CreateRefusesAnExistingFile) {
-    EXPECT_FALSE(database_.CreateDatabaseFile());
-    EXPECT_EQ(database_.ErrorMessage(), QString("File exists"));
-    ASSERT_TRUE(database_.Connect());
-    EXPECT_EQ(DrinkCount(database_), QString("2"));
-}
-
 } // namespace

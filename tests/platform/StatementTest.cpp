@@ -21,17 +21,6 @@ TEST_F(DatabaseTest, ExactlyOneStatementRuns) {
     }
 }
 
-TEST_F(DatabaseTest, InsertedValuesNeedNoQuotingAndTakeTheColumnsType) {
-    const QString name = "x'; DELETE FROM Drinks; --\n\"é🍸";
-    DatabaseRecord record;
-    record.SetColumn("DrinkName", name);
-    record.SetColumn("UserRating", "4");
-    database_.InsertRecord("Drinks", record);
-    EXPECT_EQ(database_.LastRowID(), 3);
-    EXPECT_EQ(Value(database_, "(SELECT DrinkName FROM Drinks WHERE DrinkID = 3)"), name);
-    EXPECT_EQ(Value(database_, "(SELECT typeof(UserRating) FROM Drinks WHERE DrinkID = 3)"), QString("integer"));
-}
-
 TEST_F(DatabaseTest, CommitNeverClearsTheErrorOfTheStatementBeforeIt) {
     database_.SQLExecute("INSERT INTO Drinks (DrinkName) VALUES ('Crème Fizz')");
     database_.Commit();

@@ -3,13 +3,7 @@
 #include <gtest/gtest.h>
 
 TEST(ColumnWidths, PixelsSharesAndRest) {
-    struct Case {
-        const char* text;
-        int columns;
-        int total;
-        std::vector<int> widths;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, int, int, std::vector<int>> cases[] = {
         {"65,180,*,90", 4, 600, {65, 180, 265, 90}},
         {"65,180,*,90", 4, 200, {65, 180, 0, 90}}, // too narrow: the rest is never negative
         {"20%,*,22%", 3, 225, {45, 131, 49}},
@@ -18,7 +12,7 @@ TEST(ColumnWidths, PixelsSharesAndRest) {
         {"40,*", 3, 100, {40, 60, 0}},                             // with a star, an unnamed column gets nothing
         {"wide,-5,*", 3, 100, {0, 0, 100}},
     };
-    for (const Case& row : cases) {
-        EXPECT_EQ(ColumnWidths(row.text, row.columns, row.total), row.widths) << row.text << " on " << row.total;
+    for (const auto& [text, columns, total, widths] : cases) {
+        EXPECT_EQ(ColumnWidths(text, columns, total), widths) << text << " on " << total;
     }
 }

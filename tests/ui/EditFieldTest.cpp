@@ -33,17 +33,3 @@ TEST_F(EditFieldTest, LineEndsOfEachPlatformReadBackAsOne) {
     }
     EXPECT_EQ(log, QStringList());
 }
-
-TEST_F(EditFieldTest, SelectionMadeInGotFocusStandsAfterTheClickThatBroughtTheFocus) {
-    EditField& field = window->Line;
-    field.SetText("old search");
-    field.GotFocus = [&field] {
-        field.SetSelStart(0);
-        field.SetSelLength(10);
-    };
-    Click(field, QPoint(80, 12));
-    EXPECT_EQ(field.SelLength(), 10);
-    // The next click places the caret as ever.
-    Click(field, QPoint(80, 12));
-    EXPECT_EQ(field.SelLength(), 0);
-}

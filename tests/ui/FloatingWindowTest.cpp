@@ -1,19 +1,12 @@
 #include "UiFixture.h"
-#include "platform/ui/StaticText.h"
 
 #include <QApplication>
 
 namespace {
 
-class FloatingWindow : public Window {
+class FloatingWindow : public OtherWindow {
 public:
-    FloatingWindow() : Window({.name = "FloatingWindow", .width = 200, .height = 100, .kind = WindowKind::Floating}) {
-        Link.Place(*this, nullptr, {"Link", "", {10, 10, 100, 20}});
-        Link.SetText("More");
-        Link.SetMouseCursor(MouseCursor::FingerPointer);
-    }
-
-    StaticText Link;
+    FloatingWindow() : OtherWindow(WindowKind::Floating) {}
 };
 
 using FloatingWindowTest = UiTest;

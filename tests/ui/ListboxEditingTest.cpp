@@ -84,28 +84,6 @@ TEST_F(ListboxEditingTest, APressWhileTheUserIsHeldLeavesNoButtonDown) {
     EXPECT_FALSE(Find<QPushButton>(window->Button)->isDown());
 }
 
-// The way of a grid that is filled by the keyboard alone.
-TEST_F(ListboxEditingTest, KeysReachCellKeyDownWhichMovesOnToTheNextCell) {
-    QString keys;
-    window->List.CellKeyDown = [&](int row, int column, const QString& key) {
-        keys += key;
-        if (key == QChar(9)) {
-            window->List.EditCell(row, column + 1);
-        }
-        return !key.at(0).isLetter();
-    };
-    window->List.EditCell(0, 0);
-    Type("Gin");
-    for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Left, Qt::Key_Right,
-                              Qt::Key_Up, Qt::Key_Down, Qt::Key_Delete, Qt::Key_Tab}) {
-        Press(key);
-    }
-    Type("oz");
-    window->Line.SetFocus();
-    EXPECT_EQ(keys, "Gin\b\r\x1B\x1C\x1D\x1E\x1F\x7F\toz");
-    EXPECT_EQ(log, QStringList({"lost 0,0 Gin", "lost 0,1 oz"}));
-}
-
 TEST_F(ListboxEditingTest, ComposedTextIsOfferedKeyByKey) {
     const QString letter = QString::fromUtf8("ê");
     window->List.CellKeyDown = [&](int, int, const QString& key) {

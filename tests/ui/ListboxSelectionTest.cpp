@@ -3,15 +3,10 @@
 using ListboxSelectionTest = UiTest;
 
 TEST_F(ListboxSelectionTest, ChangeComesOnceForAChangeAndTheLowestRowIsTheIndex) {
-    struct Case {
-        const char* name;
-        std::function<void()> act;
-        QStringList told;
-    };
     GivenRows({"Ale", "Bock", "  Cava", "Duvel"});
     Listbox& list = window->List;
     list.Change = [&] { log << QString("%1 of %2").arg(list.ListIndex()).arg(list.SelCount()); };
-    const Case cases[] = {
+    const std::tuple<const char*, std::function<void()>, QStringList> cases[] = {
         {"row", [&] { list.SetListIndex(2); }, {"2 of 1"}},
         {"row again", [&] { list.SetListIndex(2); }, {}},
         {"none", [&] { list.SetListIndex(-5); }, {"-1 of 0"}},
@@ -31,9 +26,9 @@ TEST_F(ListboxSelectionTest, ChangeComesOnceForAChangeAndTheLowestRowIsTheIndex)
         {"all deleted", [&] { list.DeleteAllRows(); }, {"-1 of 0"}},
         {"deleted again", [&] { list.DeleteAllRows(); }, {}},
     };
-    for (const Case& row : cases) {
-        row.act();
-        EXPECT_EQ(TakeLog(), row.told) << row.name;
+    for (const auto& [name, act, told] : cases) {
+        act();
+        EXPECT_EQ(TakeLog(), told) << name;
     }
 }
 

@@ -44,9 +44,7 @@ TEST_F(MenuBarTest, ItemsThatAreEnabledRunByTheirKeys) {
 }
 
 TEST_F(MenuBarTest, TextFieldWithTheFocusTakesTheCopyKey) {
-    EditFieldLook readOnly;
-    readOnly.readOnly = true;
-    window->Many.SetLook(readOnly);
+    window->Many.SetLook({.readOnly = true});
     for (EditField* field : {&window->Line, &window->Many}) {
         field->SetText("gin fizz");
         field->SetFocus();

@@ -18,15 +18,8 @@ QImage Drawn(const Picture& picture, int ratio) {
 
 } // namespace
 
-TEST(Picture, OneObjectForEachNameAndNullForAnUnknownOne) {
-    EXPECT_NE(NamedPicture("Rating3"), nullptr);
-    EXPECT_EQ(NamedPicture("Rating3"), NamedPicture("Rating3"));
-    EXPECT_EQ(NamedPicture("rating3"), nullptr);
-}
-
 TEST(Picture, MaskMakesWhiteTransparentAndLeavesBlackOpaqueAtEachScale) {
     Picture* picture = NamedPicture("SearchBoxMask"); // white corners around a black middle, which masks itself here
-    ASSERT_NE(picture, nullptr);
     EXPECT_EQ(Drawn(*picture, 1).pixel(0, 0), 0xFFFFFFFF);
     picture->SetMask(*picture);
     for (const int ratio : {1, 2}) {

@@ -1,5 +1,3 @@
-#include "platform/ui/StaticText.h"
-
 #include "UiFixture.h"
 
 #include <QLabel>

@@ -4,17 +4,20 @@
 #include <QMenuBar>
 
 TestWindow::TestWindow() : Window({"TestWindow", "Test", 400, 300, 300, 200, 900, 900, true}) {
-    List.Place(*this, nullptr, {"List", "Rows", {10, 10, 200, 120}, LockLeft | LockTop});
-    Line.Place(*this, nullptr, {"Line", "One line", {220, 10, 160, 24}, LockLeft | LockTop});
-    Many.Place(*this, nullptr, {"Many", "Many lines", {220, 40, 160, 80}, LockLeft | LockTop});
-    Button.Place(*this, nullptr, {"Button", "Button", {10, 180, 80, 24}, LockLeft | LockTop});
-    ListboxLook look;
-    look.selection = RowSelection::Multiple;
-    look.autoHideScrollbars = true;
-    List.SetLook(look);
+    List.Place(*this, nullptr, {"List", "Rows", {10, 10, 200, 120}});
+    Line.Place(*this, nullptr, {"Line", "One line", {220, 10, 160, 24}});
+    Many.Place(*this, nullptr, {"Many", "Many lines", {220, 40, 160, 80}});
+    Button.Place(*this, nullptr, {"Button", "Button", {10, 180, 80, 24}});
+    List.SetLook({.selection = RowSelection::Multiple, .autoHideScrollbars = true});
     List.SetColumnCount(2);
     List.SetColumnWidths("100,100");
     List.SetDefaultRowHeight(20);
+}
+
+OtherWindow::OtherWindow(WindowKind kind) : Window({.name = "OtherWindow", .width = 200, .height = 100, .kind = kind}) {
+    Field.Place(*this, nullptr, {"Field", "Field", {10, 10, 100, 24}});
+    Link.Place(*this, nullptr, {"Link", "", {10, 40, 100, 20}});
+    Link.SetMouseCursor(MouseCursor::FingerPointer);
 }
 
 UiTest::UiTest() : application(std::make_unique<Application>()), window(&Window::Implicit<TestWindow>()) {
@@ -28,7 +31,8 @@ UiTest::~UiTest() {
 
 void UiTest::ShowActive(Window& shown) {
     shown.Show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(shown.Widget()));
+    // Qt takes a floating window for active as soon as the one below it is.
+    EXPECT_TRUE(QTest::qWaitFor([&shown] { return QGuiApplication::focusWindow() == shown.Widget()->windowHandle(); }));
 }
 
 void UiTest::GivenRows(const QStringList& texts) {

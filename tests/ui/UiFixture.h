@@ -7,6 +7,7 @@
 #include "platform/ui/EditField.h"
 #include "platform/ui/Listbox.h"
 #include "platform/ui/MenuBar.h"
+#include "platform/ui/StaticText.h"
 #include "platform/ui/Window.h"
 
 #include <QStringList>
@@ -30,11 +31,10 @@ public:
 // A second window, without a menu bar.
 class OtherWindow : public Window {
 public:
-    OtherWindow() : Window({"OtherWindow", "Other", 200, 100, 150, 80, 300, 200, true}) {
-        Field.Place(*this, nullptr, {"Field", "Field", {10, 10, 100, 24}, LockLeft | LockTop});
-    }
+    explicit OtherWindow(WindowKind kind = WindowKind::Document);
 
     EditField Field{EditField::Lines::One};
+    StaticText Link;
 };
 
 // A fresh application with one open and active window for each case.
