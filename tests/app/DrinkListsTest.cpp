@@ -34,6 +34,16 @@ TEST_F(DrinkListsTest, OnlyASavedListFiltersAndTakesADrop) {
     drop(1);
     EXPECT_EQ(lists.Cell(1, 2), "1");
     EXPECT_EQ(Value("SELECT DrinkListName || DrinkID FROM DrinkLists NATURAL JOIN DrinkListXRef"), "Monday11");
+
+    QWidget* rows = Find<QTableView>("DrinkListsList")->viewport();
+    QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(60, 100));
+    QTest::mouseDClick(rows, Qt::LeftButton, {}, QPoint(60, 10));
+    EXPECT_TRUE(lists.ListIndex() == 0 && lists.ActiveCell() == nullptr)
+        << "one is always chosen, the first never named";
+    int id = lists.CellTag(1, 0);
+    EXPECT_TRUE(Program().UpdateDrinkLists("Monday", id)) << "a list does not clash with itself";
+    EXPECT_TRUE(Program().DeleteDrinkList(id));
+    EXPECT_EQ(Value("SELECT COUNT(*) FROM DrinkListXRef"), "0");
 }
 
 TEST_F(DrinkListsTest, AFailureIsToldInTheWordsOfTheDeed) {
