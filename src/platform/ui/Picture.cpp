@@ -16,6 +16,18 @@ QString ResourceOf(const QString& name) {
     return QStringLiteral(":/pictures/%1.svg").arg(name);
 }
 
+// Only the last drawing is kept: it takes more memory than a rendering of it. It often is wanted again at once, by who
+// has asked for its size, or makes an icon.
+QSvgRenderer& DrawingOf(const QString& name) {
+    static QSvgRenderer drawing;
+    static QString current;
+    if (current != name) {
+        drawing.load(ResourceOf(name));
+        current = name;
+    }
+    return drawing;
+}
+
 } // namespace
 
 struct Picture::State {
@@ -26,12 +38,11 @@ struct Picture::State {
     // By size in device pixels and screen scale.
     mutable std::map<std::tuple<int, int, qreal>, QPixmap> renderings;
 
-    // The drawing is let go again: it takes more memory than a rendering of it, and is seldom wanted twice.
     [[nodiscard]] QImage Render(const QSize& deviceSize) const {
         QImage image(deviceSize, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
-        QSvgRenderer(ResourceOf(name)).render(&painter, QRectF(QPointF(0, 0), QSizeF(deviceSize)));
+        DrawingOf(name).render(&painter, QRectF(QPointF(0, 0), QSizeF(deviceSize)));
         return image;
     }
 };
@@ -66,7 +77,7 @@ QString Picture::Name() const {
 
 QSize Picture::Size() const {
     if (!state_->size.isValid()) {
-        state_->size = QSvgRenderer(ResourceOf(state_->name)).defaultSize();
+        state_->size = DrawingOf(state_->name).defaultSize();
     }
     return state_->size;
 }
