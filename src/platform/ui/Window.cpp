@@ -13,6 +13,8 @@
 #include <QThread>
 #include <QWindow>
 
+#include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -43,7 +45,13 @@ struct Window::State {
     // Where the window was last put.
     QPoint place;
 
-    [[nodiscard]] QPoint Position() const { return WindowsKnowTheirPlace() ? frame->pos() : place; }
+    // On a fine screen a frame may be half a pixel wide. What reads back is then off by one, and a window that is put
+    // where it was would creep away with each session.
+    [[nodiscard]] QPoint Position() const {
+        const QPoint off = frame->pos() - place;
+        const bool rounded = frame->devicePixelRatioF() != 1 && std::max(std::abs(off.x()), std::abs(off.y())) <= 1;
+        return rounded || !WindowsKnowTheirPlace() ? place : frame->pos();
+    }
     void MoveTo(const QPoint& position) {
         place = position;
         frame->move(position);
