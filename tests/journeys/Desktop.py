@@ -1,4 +1,4 @@
-"""A screen of its own, with a window manager, a session bus and the accessibility bus."""
+"""A screen of its own, with a window manager, a session bus and the accessibility bus, as one user or another has it."""
 
 import os
 import signal
@@ -11,10 +11,32 @@ from Waiting import WaitFor
 OPENBOX_SETTINGS = "/etc/xdg/openbox/rc.xml"
 
 
+PLASMA = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
+DARK = "".join(f"[Colors:{part}]\nBackgroundNormal=35,38,41\nForegroundNormal=252,252,252\n"
+               for part in ("Window", "View", "Button", "Selection", "Tooltip"))
+# How many pixels of the screen are one of the program's, the environment, and the settings of a Plasma desktop.
+DESKTOPS = {
+    "plain": (1, {"LANG": "C.UTF-8", "QT_SCALE_FACTOR": "1"}, ""),
+    "German": (1, {"LANG": "de_DE.UTF-8", "QT_SCALE_FACTOR": "1"}, ""),
+    "dark and fine": (2, {"LANG": "C", "QT_SCALE_FACTOR": "2", **PLASMA}, DARK),
+    "one and a half": (1.5, {"LANG": "C.UTF-8", "QT_SCALE_FACTOR": "1.5"}, ""),
+    "large text": (1.5, {"LANG": "C.UTF-8", **PLASMA}, "[General]\nfont=DejaVu Sans,16,-1,5,50,0,0,0,0,0\n"),
+    "other style": (1, {"LANG": "C", "QT_SCALE_FACTOR": "1", "QT_STYLE_OVERRIDE": "Windows"}, ""),
+}
+
+
 class Desktop:
-    def __init__(self):
+    def __init__(self, name="plain"):
+        self.scale, environment, settings = DESKTOPS[name]
         self.processes = []
         self.folder = tempfile.TemporaryDirectory(prefix="pourbook-journey-")
+        os.environ.update(environment, LOCPATH=self.folder.name, XDG_CONFIG_HOME=self.folder.name)
+        with open(os.path.join(self.folder.name, "kdeglobals"), "w") as file:
+            file.write(settings)
+        language = environment["LANG"]
+        if not language.startswith("C"):
+            subprocess.run(["localedef", "-i", language.split(".")[0], "-f", "UTF-8",
+                            os.path.join(self.folder.name, language)], check=True)
         self.log = open(os.path.join(self.folder.name, "log"), "w+")
 
     def __enter__(self):
@@ -29,9 +51,7 @@ class Desktop:
 
     def __exit__(self, kind, *error):
         if kind is not None:
-            picture = os.path.join(os.environ["JOURNEY_PICTURES"], "failed-journey.png")
-            subprocess.run(["import", "-window", "root", picture], check=False, stderr=self.log)
-            print("Picture of the screen:", picture)
+            self.Picture("failed-journey")
             self.log.seek(0)
             print("What the programs said:\n" + self.log.read())
         for process in reversed(self.processes):
@@ -40,6 +60,11 @@ class Desktop:
             process.wait()
         self.log.close()
         self.folder.cleanup()
+
+    def Picture(self, name):
+        picture = os.path.join(os.environ["JOURNEY_PICTURES"], name + ".png")
+        subprocess.run(["import", "-window", "root", picture], check=False, stderr=self.log)
+        print("Picture of the screen:", picture)
 
     def Run(self, *command, **options):
         """Starts a process that ends with the desktop at the latest."""
@@ -52,7 +77,8 @@ class Desktop:
     def StartScreen(self):
         read, write = os.pipe()
         # Without -noreset the screen starts anew when its last client goes, and refuses whoever comes meanwhile.
-        self.Run("Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset",
+        size = f"{int(1280 * self.scale)}x{int(900 * self.scale)}x24"
+        self.Run("Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
                  pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
@@ -72,6 +98,13 @@ class Desktop:
         ready = os.path.join(self.folder.name, "ready")
         self.Run("openbox", "--config-file", OPENBOX_SETTINGS, "--startup", f"touch {ready}")
         WaitFor(lambda: os.path.exists(ready), "the window manager")
+
+
+def ColourAt(x, y):
+    """As two hexadecimal digits each of red, green and blue."""
+    shot = subprocess.run(["import", "-window", "root", "-crop", f"1x1+{x}+{y}", "-depth", "8", "txt:-"], check=True,
+                          capture_output=True, text=True).stdout
+    return shot.split("#")[-1][:6]
 
 
 def Xdotool(*command):

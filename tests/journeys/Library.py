@@ -39,10 +39,6 @@ class Library:
     def Found(self, search):
         return self.Names(f"DrinkName LIKE '%{search}%' OR IngredientList LIKE '%{search}%'")
 
-    def FillBar(self, names):
-        quoted = ", ".join(f"'{name}'" for name in names)
-        self.Run(f"UPDATE Ingredients SET InBar = 1 WHERE IngredientName IN ({quoted})")
-
     def Bar(self):
         """The ingredients at home, each with what a screen reader says of its bottle."""
         return self.Run("SELECT CASE Empty WHEN 1 THEN 'empty ' ELSE 'in stock ' END || IngredientName "

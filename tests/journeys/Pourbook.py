@@ -21,7 +21,7 @@ class Home:
 
     def __init__(self, desktop, name="home"):
         self.path = os.path.join(desktop.folder.name, name)
-        os.mkdir(self.path)
+        os.makedirs(self.path)
         self.userFolder = os.path.join(self.path, "Application Support", TITLE)
         self.file = os.path.join(self.userFolder, "drinkdb.rsd")
         self.library = Library(self.file)
@@ -35,7 +35,8 @@ class Home:
 
 class Pourbook:
     def __init__(self, desktop, home, *command, **options):
-        environment = dict(os.environ, XDG_DATA_HOME=home.path, QT_SCALE_FACTOR="1",
+        self.scale = desktop.scale
+        environment = dict(os.environ, XDG_DATA_HOME=home.path,
                            LSAN_OPTIONS="print_suppressions=0:suppressions=" + os.environ["LEAK_SUPPRESSIONS"])
         self.process = desktop.Run(*(command or [PROGRAM]), env=environment, **options)
         self.screen = Screen(self.process.pid)
@@ -80,7 +81,14 @@ class Pourbook:
     def Click(self, element, x=None):
         """Presses the mouse in the middle of an element, or `x` pixels from its left edge."""
         left, top, width, height = PlaceOf(element)
-        Desktop.ClickAt(left + (width // 2 if x is None else x), top + height // 2)
+        Desktop.ClickAt(*self.OnScreen(left + (width // 2 if x is None else x), top + height // 2))
+
+    def Drag(self, start, end):
+        Desktop.Drag(*(self.OnScreen(*PlaceOf(element)[:2]) for element in (start, end)))
+
+    def OnScreen(self, *place):
+        """The bus and the program measure in pixels of the program."""
+        return [int(measure * self.scale) for measure in place]
 
     def Choose(self, menu, item):
         self.Click(self.screen.Find(menu, self.screen.atspi.ROLE_MENU_ITEM))

@@ -32,7 +32,7 @@ def QuitWhileTheSiteIsSilent(desktop):
         ExpectEqual(home.library.Run("SELECT LastUpdateCheck IS NULL FROM Setup"), ["1"], "no day of a check")
 
 
-with Desktop.Desktop() as desktop:
+with Desktop.Desktop("German") as desktop:
     page = PutBrowser(desktop.folder.name)
     site = VersionSite.Start()
 
