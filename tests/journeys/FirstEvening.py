@@ -1,5 +1,5 @@
 """A first evening with the program, from the first look to the next start, by mouse and keyboard alone, on the desktop
-of that name. Each deed leaves a picture."""
+that the first argument names. With a second argument, "pictures", each deed leaves one."""
 
 import itertools
 import sys
@@ -253,7 +253,8 @@ with Desktop.Desktop(sys.argv[1]) as desktop:
     for deed in (LookAtWindow, Search, Rate, DeclareBar, MatchToBar, MarkWhileHeld, MakeLists, DragDrinks, WriteRecipe,
                  DeleteDrink, SeeWhatToBuy, ReadHelp):
         deed()
-        desktop.Picture(f"{sys.argv[1]}-{deed.__name__}")
+        if "pictures" in sys.argv:
+            desktop.Picture(f"{sys.argv[1]}-{deed.__name__}")
     place = Arrange()
     pourbook.Close()
     setup = library.Run(SETUP)

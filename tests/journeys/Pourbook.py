@@ -2,7 +2,6 @@
 
 import os
 import shutil
-import subprocess
 
 import Desktop
 from Library import Library
