@@ -22,14 +22,6 @@ def TakeAwayFile(home, install):
     os.makedirs(home.userFolder)
 
 
-def Truncate(size):
-    def Damage(home, install):
-        home.GivenLibrary()
-        os.truncate(home.file, size)
-
-    return Damage
-
-
 def ForbidWriting(home, install):
     os.chmod(home.path, 0o555)
 
@@ -48,8 +40,6 @@ CASES = [
     # name, what is wrong, the message
     ("another key", Change("PRAGMA rekey='PoorMead1357'"), CANNOT_OPEN + r"\S"),
     ("folder without file", TakeAwayFile, CANNOT_OPEN + "unable to open"),
-    ("file cut off within a page", Truncate(50100), CANNOT_OPEN + r"\S"),
-    ("empty file", Truncate(0), CANNOT_OPEN + r"\S"),
     ("no rights", ForbidWriting, CANNOT_SET_UP),
     ("full disk", lambda home, install: None, CANNOT_SET_UP),
     ("no seed", TakeAwaySeed, CANNOT_SET_UP),

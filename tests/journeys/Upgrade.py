@@ -1,12 +1,10 @@
 """A library of another version is replaced, and what is the user's own moves along or stays whole in the backup."""
 
 import os
-import time
 
 import Desktop
 from Library import Library
 from Pourbook import ExpectEqual, Home, Pourbook
-from Waiting import WaitFor
 
 # No drink has the id that it has in the new library. Names with one apostrophe come first; those with two stop the
 # upgrade, by decision.
@@ -54,22 +52,5 @@ def UpgradeInPeace(desktop):
                 ["2", "0"], "the new library")
 
 
-def UpgradeKilled(desktop, milliseconds):
-    """Killed so long after the old file became the backup."""
-    home = Home(desktop, f"killed{milliseconds}")
-    data = GivenOldFile(home)
-    pourbook = Pourbook(desktop, home)
-    WaitFor(lambda: os.path.exists(BackupOf(home)), "the backup")
-    time.sleep(milliseconds / 1000)
-    pourbook.process.kill()
-    pourbook.process.wait()
-    ExpectEqual(Library(BackupOf(home)).Run(USER_DATA), data, f"the backup after {milliseconds} ms")
-    if os.path.exists(home.file):
-        Pourbook(desktop, home).WaitForWindow().Close()
-        ExpectEqual(home.library.Run("PRAGMA integrity_check"), ["ok"], f"the new file after {milliseconds} ms")
-
-
 with Desktop.Desktop() as desktop:
     UpgradeInPeace(desktop)
-    for milliseconds in (0, 3, 10, 30, 60, 120):
-        UpgradeKilled(desktop, milliseconds)

@@ -31,7 +31,7 @@ ORPHANS = """
 
 
 def Difference(expected, seen):
-    return "\n".join(list(difflib.unified_diff(expected, seen, "expected", "seen", "", 0))[:20])
+    return "\n".join(list(difflib.unified_diff(expected, seen, "expected", "seen", n=0, lineterm=""))[:20])
 
 
 def Names(operation):

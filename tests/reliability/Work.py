@@ -46,7 +46,7 @@ class Worker:
         self.process = subprocess.Popen(
             [*command, WORKER, *map(str, (home.path, seed, operations, place, workers, dieAtCall))], text=True,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=dict(
-                os.environ, QT_QPA_PLATFORM="offscreen",
+                os.environ, QT_QPA_PLATFORM="offscreen", TMPDIR=str(home.path.parent),
                 LSAN_OPTIONS="print_suppressions=0:suppressions=" + os.environ.get("LEAK_SUPPRESSIONS", "")))
 
     def End(self):

@@ -70,7 +70,7 @@ private:
 
     void Rate() {
         constexpr int places[] = {1, 7, 18, 30, 42, 55};
-        Window().DrinkListsList.SetListIndex(0);
+        ShowList(0);
         const int stars = Random(6);
         for (const QJsonValue name : SelectDrinks(1)) {
             Begin("rate", {{"drink", name}, {"stars", stars}});
@@ -130,7 +130,7 @@ private:
             Listbox& lists = Window().DrinkListsList;
             const QString list = ListName();
             const int row = lists.ListIndex();
-            lists.SetListIndex(0);
+            ShowList(0);
             Begin("drop drinks", {{"list", list}, {"drinks", SelectDrinks(4)}});
             const QPoint target = ShowCell(Window(), "DrinkListsList", row, 1);
             lists.DragOver(target.x(), target.y(), {}, 0);
@@ -174,7 +174,7 @@ private:
     }
 
     void DeleteDrinks() {
-        Window().DrinkListsList.SetListIndex(0);
+        ShowList(0);
         Begin("delete drinks", {{"drinks", SelectDrinks(2)}});
         QTest::keyClick(Find<QTableView>("DrinkList"), Qt::Key_Delete);
     }
@@ -271,10 +271,17 @@ private:
         return names;
     }
 
+    // A start that could not read the file leaves no list, not even that of all drinks.
+    void ShowList(int row) {
+        if (row < Window().DrinkListsList.ListCount()) {
+            Window().DrinkListsList.SetListIndex(row);
+        }
+    }
+
     // False when this worker has none.
     [[nodiscard]] bool SelectList() {
         const std::vector<int> rows = RandomRows(Window().DrinkListsList, 1);
-        Window().DrinkListsList.SetListIndex(rows.empty() ? 0 : rows.front());
+        ShowList(rows.empty() ? 0 : rows.front());
         return !rows.empty();
     }
 
