@@ -21,7 +21,7 @@ IsConfigured release || Configure release POURBOOK_TESTS=OFF POURBOOK_BENCH=OFF
 
 cd "$root"
 status=0
-shellcheck --external-sources run.sh test.sh lint.sh .ci/run packaging/*.sh tests/package/*.sh || status=1
+shellcheck --external-sources run.sh test.sh lint.sh .ci/run packaging/*.sh tests/*/*.sh || status=1
 find src tools tests bench \( -name '*.cpp' -o -name '*.h' \) -print0 |
     xargs -0 --no-run-if-empty clang-format --dry-run -Werror || status=1
 TidyArguments | xargs --no-run-if-empty -n 2 -P "$(nproc)" packaging/tidy-file.sh || status=1
