@@ -21,6 +21,7 @@ TEST_F(DrinkListsTest, OnlyASavedListFiltersAndTakesADrop) {
     QTest::keyClicks(field, "  \r");
     EXPECT_EQ(LastMessage().text, "You must give the DrinkList a name.");
     EXPECT_EQ(ListedDrinks(), "Americano");
+    ASSERT_TRUE(QTest::qWaitFor([field] { return field->hasFocus(); }));
     AnswerNextMessage();
     Choose("File_NewDrinklist");
     EXPECT_EQ(lists.ListCount(), 2) << "the name is asked for first";

@@ -43,7 +43,7 @@ public:
 
 protected:
     bool event(QEvent* event) override {
-        if (event->type() == QEvent::ToolTip) {
+        if (event->type() == QEvent::ToolTip && (IsPressable() || !Shown().isEmpty())) {
             const QAccessibleInterface* words = QAccessible::queryAccessibleInterface(this);
             QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), words->text(QAccessible::Name), this);
             return true;

@@ -8,7 +8,7 @@ class Picture;
 
 // An area that shows one picture, stretched to its size, and answers to the mouse. It takes no focus. Assistive tools
 // know one that answers to a press as a button, and press it as the mouse does; another one that has a description is a
-// picture to them. Both show in a tool tip what they are called.
+// picture to them. A tool tip shows what a button, or a picture that has a description itself, is called.
 class Canvas : public Control {
 public:
     Canvas();

@@ -26,8 +26,10 @@ bool FieldEvents::eventFilter(QObject* watched, QEvent* event) {
             PassOn(watched, event);
             events::Raise(field_.LostFocus);
             return true;
-        case QEvent::KeyPress:
-            return events::Raise(field_.KeyDown, KeyText(*static_cast<QKeyEvent*>(event)));
+        case QEvent::KeyPress: {
+            const QString key = KeyText(*static_cast<QKeyEvent*>(event));
+            return !key.isEmpty() && events::Raise(field_.KeyDown, key);
+        }
         case QEvent::ShortcutOverride:
             // A read-only field of many lines would leave the key to the menu.
             if (static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
