@@ -15,7 +15,8 @@ void BareDatabase::Closer::operator()(sqlite3* engine) const {
 
 BareDatabase::BareDatabase(const QString& path) {
     sqlite3* engine = nullptr;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &engine, SQLITE_OPEN_READWRITE, nullptr);
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &engine, flags, nullptr);
     engine_.reset(engine);
     if (code != SQLITE_OK) {
         Fail();
@@ -28,22 +29,35 @@ BareDatabase::BareDatabase(const QString& path) {
 }
 
 int BareDatabase::Walk(const QString& statement) const {
+    int count = 0;
+    ForEachRow(statement, [&count](sqlite3_stmt* row) {
+        for (int column = 0; column < sqlite3_column_count(row); ++column) {
+            benchmark::DoNotOptimize(sqlite3_column_text(row, column));
+        }
+        ++count;
+    });
+    return count;
+}
+
+std::vector<int> BareDatabase::Numbers(const QString& statement) const {
+    std::vector<int> numbers;
+    ForEachRow(statement, [&numbers](sqlite3_stmt* row) { numbers.push_back(sqlite3_column_int(row, 0)); });
+    return numbers;
+}
+
+void BareDatabase::ForEachRow(const QString& statement, const std::function<void(sqlite3_stmt*)>& deed) const {
     sqlite3_stmt* prepared = nullptr;
     if (sqlite3_prepare_v2(engine_.get(), statement.toUtf8().constData(), -1, &prepared, nullptr) != SQLITE_OK) {
         Fail();
     }
-    int count = 0;
     int code = SQLITE_DONE;
-    for (; (code = sqlite3_step(prepared)) == SQLITE_ROW; ++count) {
-        for (int column = 0; column < sqlite3_column_count(prepared); ++column) {
-            benchmark::DoNotOptimize(sqlite3_column_text(prepared, column));
-        }
+    while ((code = sqlite3_step(prepared)) == SQLITE_ROW) {
+        deed(prepared);
     }
     if (code != SQLITE_DONE) {
         Fail();
     }
     sqlite3_finalize(prepared);
-    return count;
 }
 
 void BareDatabase::Fail() const {

@@ -1,7 +1,8 @@
 #include "BenchHomes.h"
 
-#include "GeneratedLibrary.h"
+#include "GrownLibrary.h"
 #include "platform/database/Database.h"
+#include "seed/SeedWriter.h"
 #include "store/DatabaseFiles.h"
 
 #include <cstdio>
@@ -16,45 +17,51 @@ QString& Folder() {
     return folder;
 }
 
-void Use(const char* name) {
-    qputenv("XDG_DATA_HOME", FolderItem(Folder()).Child(QString::fromLatin1(name)).AbsolutePath().toUtf8());
+[[noreturn]] void Fail(const QString& problem) {
+    std::fprintf(stderr, "Could not write the library: %s\n", qPrintable(problem));
+    std::exit(EXIT_FAILURE);
 }
 
-// Not a first run, and no option but the ratings: a first run would look for a new version.
-void WriteSetup() {
+// The file as its user would have left it: no first run, which would look for a new version; all columns on; a part of
+// the drinks rated; every second ingredient at home.
+void MakeUsed(const FolderItem& file) {
     REALSQLDatabase db;
-    db.SetDatabaseFile(WorkingDatabase(true, appName));
+    db.SetDatabaseFile(file);
     db.SetEncryptionKey(DatabaseKey());
-    if (db.Connect()) {
-        db.SQLExecute(QStringLiteral(
-            "UPDATE Setup SET AppLeft = 100, AppTop = 100, AppWidth = 750, AppHeight = 600, UserOptions = 'V01'"));
+    if (!db.Connect()) {
+        Fail(db.ErrorMessage());
     }
-    if (db.Error()) {
-        std::fprintf(stderr, "Could not prepare the shipped library: %s\n", qPrintable(db.ErrorMessage()));
-        std::exit(EXIT_FAILURE);
+    const QString statements[] = {
+        QStringLiteral("UPDATE Setup SET AppLeft = 100, AppTop = 100, AppWidth = 1000, AppHeight = 800, "
+                       "UserOptions = 'V01V02V03'"),
+        QStringLiteral("UPDATE Drinks SET UserRating = DrinkID % 6 WHERE DrinkID % 4 = 0"),
+        QStringLiteral("UPDATE Ingredients SET InBar = 1 WHERE IngredientID % 2 = 0"),
+    };
+    for (const QString& statement : statements) {
+        db.SQLExecute(statement);
+        if (db.Error()) {
+            Fail(db.ErrorMessage());
+        }
     }
 }
 
 } // namespace
 
-void BenchHomes::Make(const QString& folder) {
+void BenchHomes::SetFolder(const QString& folder) {
     Folder() = folder;
-    UseShipped();
-    UserFolder(true, appName).CreateAsFolder();
-    SeedDatabase(true).CopyFileTo(UserFolder(true, appName));
-    WriteSetup();
 }
 
-void BenchHomes::UseShipped() {
-    Use("shipped");
-}
-
-void BenchHomes::UseGenerated() {
-    Use("generated");
-    if (!UserFolder(true, appName).Exists()) {
-        UserFolder(true, appName).CreateAsFolder();
-        GeneratedLibrary::Write(WorkingDatabase(true, appName));
+void BenchHomes::Use(int drinks) {
+    qputenv("XDG_DATA_HOME", FolderItem(Folder()).Child(QString::number(drinks)).AbsolutePath().toUtf8());
+    if (UserFolder(true, appName).Exists()) {
+        return;
     }
+    UserFolder(true, appName).CreateAsFolder();
+    QString problem;
+    if (!WriteSeed(GrownLibrary(drinks), File(), problem)) {
+        Fail(problem);
+    }
+    MakeUsed(WorkingDatabase(true, appName));
 }
 
 QString BenchHomes::File() {

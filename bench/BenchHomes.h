@@ -2,16 +2,16 @@
 
 #include <QString>
 
-// The data folders of two users: one has the library that is shipped, the other a large one. The program looks for
-// its file anew with each connection, so it can be sent from one to the other while it runs.
+// The data folders of users whose libraries have different sizes. The program looks for its file anew with each
+// connection, so it can be sent from one to the other while it runs.
 namespace BenchHomes {
 
-// Makes the folder of the first user below this one. A failure ends the process.
-void Make(const QString& folder);
+// Where the folders are made. It must be there as long as they are used.
+void SetFolder(const QString& folder);
 
-void UseShipped();
-// Writes the large library at the first call, which takes some seconds.
-void UseGenerated();
+// Sends the program to the library with this many drinks, and writes it at the first call, which takes up to half a
+// minute. A failure ends the process.
+void Use(int drinks);
 
 // The file of the folder that is used now.
 QString File();

@@ -6,22 +6,17 @@
 
 namespace {
 
-double Seconds(const Deed& deed) {
-    if (deed.prepare) {
-        deed.prepare();
-    }
-    const auto begin = std::chrono::steady_clock::now();
-    deed.run();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
 double Median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
 
-void Measure(benchmark::State& state, const Deed& ours, const std::function<double()>& measure, const char* sentence) {
+void Measure(benchmark::State& state, const Deed& ours, const std::function<double()>& measure,
+             const Promise& promise) {
+    // The first run of each finds a cold machine and a key that is not derived yet.
+    Seconds(ours);
+    measure();
     std::vector<double> ratios;
     for ([[maybe_unused]] auto turn : state) {
         const double seconds = Seconds(ours);
@@ -29,19 +24,33 @@ void Measure(benchmark::State& state, const Deed& ours, const std::function<doub
         state.SetIterationTime(seconds);
     }
     if (!ratios.empty()) {
-        state.counters["ratio"] = Median(ratios);
+        Report(state, Median(ratios), promise);
     }
-    state.SetLabel(sentence);
 }
 
 } // namespace
 
-void Compare(benchmark::State& state, const Deed& ours, const Deed& measure, const char* sentence) {
-    Measure(
-        state, ours, [&measure] { return Seconds(measure); }, sentence);
+double Seconds(const Deed& deed) {
+    if (deed.prepare) {
+        deed.prepare();
+    }
+    const auto begin = std::chrono::steady_clock::now();
+    deed.run();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count() / deed.things;
 }
 
-void CompareWithSeconds(benchmark::State& state, const Deed& ours, double seconds, const char* sentence) {
+void Compare(benchmark::State& state, const Deed& ours, const Deed& measure, const Promise& promise) {
     Measure(
-        state, ours, [seconds] { return seconds; }, sentence);
+        state, ours, [&measure] { return Seconds(measure); }, promise);
+}
+
+void CompareWithSeconds(benchmark::State& state, const Deed& ours, double seconds, const Promise& promise) {
+    Measure(
+        state, ours, [seconds] { return seconds; }, promise);
+}
+
+void Report(benchmark::State& state, double ratio, const Promise& promise) {
+    state.counters["ratio"] = ratio;
+    state.counters["target"] = promise.target;
+    state.SetLabel(promise.sentence);
 }

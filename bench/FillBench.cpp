@@ -2,91 +2,18 @@
 #include "BenchHomes.h"
 #include "Benchmarks.h"
 #include "Comparison.h"
-#include "GeneratedLibrary.h"
 #include "shell/App.h"
 #include "shell/MainWindow.h"
 
-#include <QCoreApplication>
-
 #include <memory>
-#include <vector>
+#include <string>
 
 namespace {
 
-constexpr double frame = 1.0 / 60.0;
-
-const QString base = QStringLiteral(
+const QString statement = QStringLiteral(
     "SELECT D.DrinkID, D.DrinkName, D.IngredientList, D.UserRating, T.DrinkTypeName, G.GlassTypeName FROM Drinks AS D "
     "LEFT JOIN DrinkTypes AS T ON (D.DrinkTypeID = T.DrinkTypeID) LEFT JOIN GlassTypes AS G ON (D.GlassTypeID = "
-    "G.GlassTypeID) ");
-const QString order = QStringLiteral("ORDER BY D.DrinkName");
-const QString drinklist = QStringLiteral("SELECT * FROM DrinkListXRef WHERE DrinkListID = 1");
-const QStringList match = {
-    QStringLiteral("SELECT IngredientID FROM Ingredients WHERE InBar = 1 AND Empty = 0"),
-    QStringLiteral("SELECT IngredientID, IngredientParentID FROM Ingredients WHERE IngredientParentID IS NOT NULL"),
-    QStringLiteral("SELECT D.DrinkID, D.IngredientCount, R.IngredientID FROM Drinks AS D INNER JOIN DrinkRecipes AS R "
-                   "ON (D.DrinkID = R.DrinkID) WHERE R.Required != 0 ORDER BY D.DrinkID"),
-};
-
-QString SearchStatement(const QString& text) {
-    return base + QStringLiteral("WHERE D.DrinkName LIKE '%%1%' OR D.IngredientList LIKE '%%1%'").arg(text) + order;
-}
-
-struct FillCase {
-    const char* name;
-    const char* sentence;
-    QString search;
-    bool useMatch;
-    int drinkListRow;
-    QStringList statements;
-    int expectedDrinks; // negative: as many as the last statement finds
-};
-
-std::vector<FillCase> Cases() {
-    return {
-        {"fill/all", "all 100,000 drinks", {}, false, 0, {base + order}, GeneratedLibrary::drinks},
-        {"fill/search",
-         "a search that finds 40% of them, the engine with its own LIKE",
-         QStringLiteral("gin"),
-         false,
-         0,
-         {SearchStatement(QStringLiteral("gin"))},
-         -1},
-        {"fill/match",
-         "the match, with all 1,000 ingredients in the bar",
-         {},
-         true,
-         0,
-         match + QStringList{base + order},
-         GeneratedLibrary::drinks},
-        {"fill/drinklist",
-         "a drinklist of 50,000",
-         {},
-         false,
-         1,
-         {drinklist, base + order},
-         GeneratedLibrary::listedDrinks},
-        {"fill/both",
-         "the match and the drinklist",
-         {},
-         true,
-         1,
-         match + QStringList{drinklist, base + order},
-         GeneratedLibrary::listedDrinks},
-    };
-}
-
-void SetControls(const QString& search, bool useMatch, int drinkListRow) {
-    App& app = App::Instance();
-    MainWindow& window = MainWindow::Instance();
-    // The change handlers stay quiet meanwhile, as they do at start-up.
-    app.AppLoaded = false;
-    static_cast<void>(app.FillDrinkListsList());
-    window.DrinkListsList.SetListIndex(drinkListRow);
-    window.SearchBox.SetText(search);
-    window.MatchIngredients.SetValue(useMatch);
-    app.AppLoaded = true;
-}
+    "G.GlassTypeID) ORDER BY D.DrinkName");
 
 void Fill(benchmark::State& state) {
     if (!App::Instance().FillDrinkList()) {
@@ -94,75 +21,54 @@ void Fill(benchmark::State& state) {
     }
 }
 
-// The bare engine starts with an empty page cache, as the program's own connection does.
-void FillLargeLibrary(benchmark::State& state, const FillCase& fill) {
-    BenchHomes::UseGenerated();
-    SetControls(fill.search, fill.useMatch, fill.drinkListRow);
+// A new connection has decrypted nothing yet, as that of the program. A kept one has all that it can keep: it tells how
+// much of a fill is decryption, which no change of the program's own work can save.
+void FillAgainstStatement(benchmark::State& state, int drinks, bool keepConnection, double target) {
+    BenchHomes::Use(drinks);
     std::unique_ptr<BareDatabase> bare;
     int found = 0;
-    const auto walk = [&] {
-        for (const QString& statement : fill.statements) {
-            found = bare->Walk(statement);
+    const auto open = [&] {
+        if (!bare || !keepConnection) {
+            bare = std::make_unique<BareDatabase>(BenchHomes::File());
         }
     };
-    const auto open = [&] { bare = std::make_unique<BareDatabase>(BenchHomes::File()); };
-    const std::string sentence = std::string("a fill against its bare statements: ") + fill.sentence;
-    Compare(state, {[&] { Fill(state); }, {}}, {walk, open}, sentence.c_str());
-
-    const int listed = MainWindow::Instance().DrinkList.ListCount();
-    if (listed != (fill.expectedDrinks < 0 ? found : fill.expectedDrinks)) {
+    Compare(state, {[&] { Fill(state); }}, {[&] { found = bare->Walk(statement); }, open},
+            {keepConnection ? "a fill of all columns, against its statement on a connection with all pages decrypted"
+                            : "a fill of all columns, against its statement on an open connection",
+             target});
+    if (MainWindow::Instance().DrinkList.ListCount() != found || found != drinks) {
         state.SkipWithError("the fill did not list what the statement finds");
     }
-    SetControls({}, false, 0);
 }
 
-const QString typed = QStringLiteral("margarita");
-
-// Each turn types the word and deletes it; what is measured is the whole way from the key to the painted window.
-void TypeAndDelete() {
-    EditField& box = MainWindow::Instance().SearchBox;
-    for (int length = 1; length <= typed.size(); ++length) {
-        box.SetText(typed.left(length));
-        QCoreApplication::processEvents();
-    }
-    for (auto length = typed.size() - 1; length >= 0; --length) {
-        box.SetText(typed.left(length));
-        QCoreApplication::processEvents();
-    }
-}
-
-void KeystrokesAgainstStatements(benchmark::State& state) {
-    BenchHomes::UseShipped();
-    SetControls({}, false, 0);
-    const auto walk = [] {
-        for (int length = 1; length <= typed.size(); ++length) {
-            BareDatabase(BenchHomes::File()).Walk(SearchStatement(typed.left(length)));
-        }
-        for (auto length = typed.size() - 1; length >= 0; --length) {
-            BareDatabase(BenchHomes::File()).Walk(length == 0 ? base + order : SearchStatement(typed.left(length)));
+void Growth(benchmark::State& state, int fewDrinks, int manyDrinks) {
+    constexpr int fills = 25;
+    const auto fillFew = [&] {
+        for (int count = 0; count < fills; ++count) {
+            Fill(state);
         }
     };
-    Compare(state, {TypeAndDelete, {}}, {walk, {}},
-            "a keystroke in the search box, connected, filled and painted, against a bare connect and the statement "
-            "(shipped library)");
-}
-
-void KeystrokesAgainstFrame(benchmark::State& state) {
-    BenchHomes::UseShipped();
-    SetControls({}, false, 0);
-    CompareWithSeconds(state, {TypeAndDelete, {}}, frame * 2 * static_cast<double>(typed.size()),
-                       "the same keystroke, against the time of one picture at 60 a second");
+    Compare(state, {[&] { Fill(state); }, [=] { BenchHomes::Use(manyDrinks); }, static_cast<double>(manyDrinks)},
+            {fillFew, [=] { BenchHomes::Use(fewDrinks); }, static_cast<double>(fills) * fewDrinks},
+            {"a fill's cost per drink in the largest library, against that in one of 1,000", 1.2});
 }
 
 } // namespace
 
-void RegisterFills() {
-    for (const FillCase& fill : Cases()) {
-        benchmark::RegisterBenchmark(fill.name, FillLargeLibrary, fill)->UseManualTime()->Iterations(7);
+void RegisterFill(const BenchPlan& plan) {
+    for (const int drinks : plan.Sizes()) {
+        const int turns = plan.TurnsFor(drinks);
+        const double target = drinks == plan.MiddleSize() ? 1.5 : 0;
+        benchmark::RegisterBenchmark(("fill/" + std::to_string(drinks)).c_str(), FillAgainstStatement, drinks, false,
+                                     target)
+            ->UseManualTime()
+            ->Iterations(turns);
+        benchmark::RegisterBenchmark(("fill/kept/" + std::to_string(drinks)).c_str(), FillAgainstStatement, drinks,
+                                     true, 0.0)
+            ->UseManualTime()
+            ->Iterations(turns);
     }
-}
-
-void RegisterKeystrokes() {
-    benchmark::RegisterBenchmark("keystroke/statement", KeystrokesAgainstStatements)->UseManualTime()->Iterations(30);
-    benchmark::RegisterBenchmark("keystroke/frame", KeystrokesAgainstFrame)->UseManualTime()->Iterations(30);
+    benchmark::RegisterBenchmark("fill/growth", Growth, 1'000, plan.LargestSize())
+        ->UseManualTime()
+        ->Iterations(plan.Turns(11));
 }

@@ -22,14 +22,13 @@ constexpr LikeCase cases[] = {
 // With all pages in memory, so that reading the file does not hide the work of the LIKE.
 const QString roomForAll = QStringLiteral("PRAGMA cache_size = -400000");
 
-void Like(benchmark::State& state, const LikeCase& like) {
-    BenchHomes::UseGenerated();
+void Like(benchmark::State& state, const LikeCase& like, int drinks) {
+    BenchHomes::Use(drinks);
     const QString statement =
         QStringLiteral("SELECT COUNT(*) FROM Drinks WHERE DrinkName LIKE '%1' OR IngredientList LIKE '%1'")
             .arg(QString::fromLatin1(like.pattern));
     const BareDatabase bare(BenchHomes::File());
     bare.Walk(roomForAll);
-    bare.Walk(statement);
 
     REALSQLDatabase db;
     db.SetDatabaseFile(FolderItem(BenchHomes::File()));
@@ -44,14 +43,15 @@ void Like(benchmark::State& state, const LikeCase& like) {
             state.SkipWithError(qPrintable(db.ErrorMessage()));
         }
     };
-    ours();
-    Compare(state, {ours, {}}, {[&] { bare.Walk(statement); }, {}}, like.sentence);
+    Compare(state, {ours}, {[&] { bare.Walk(statement); }}, {like.sentence, 1.5});
 }
 
 } // namespace
 
-void RegisterLike() {
+void RegisterLike(const BenchPlan& plan) {
     for (const LikeCase& like : cases) {
-        benchmark::RegisterBenchmark(like.name, Like, like)->UseManualTime()->Iterations(15);
+        benchmark::RegisterBenchmark(like.name, Like, like, plan.LargestSize())
+            ->UseManualTime()
+            ->Iterations(plan.Turns(15));
     }
 }

@@ -1,4 +1,6 @@
 // Measures the real program: its window on Qt's offscreen platform, its files encrypted in a folder of their own.
+//
+//     pourbook_bench [--smoke] [--benchmark_filter=EXPRESSION]
 
 #include "BenchHomes.h"
 #include "Benchmarks.h"
@@ -10,8 +12,10 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -29,31 +33,43 @@ void StartUp(App& app) {
     QCoreApplication::processEvents();
 }
 
-int Measure(App& app) {
+int Measure(App& app, const BenchPlan& plan) {
     StartUp(app);
-    RegisterConnect();
-    RegisterKeystrokes();
-    RegisterRecipe();
-    RegisterSave();
-    RegisterLike();
-    RegisterFills();
+    RegisterFill(plan);
+    RegisterMatch(plan);
+    RegisterPaint(plan);
+    RegisterConnect(plan);
+    RegisterLike(plan);
+    // The last, because it changes what is in the bar.
+    RegisterSave(plan);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return reporter.HasFailures() ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
+// Takes the option "--smoke" out of the command line; the others are Google Benchmark's.
+BenchPlan TakePlan(int& argc, char** argv) {
+    char** const end = std::remove_if(argv + 1, argv + argc,
+                                      [](const char* argument) { return std::strcmp(argument, "--smoke") == 0; });
+    const BenchPlan plan{end != argv + argc};
+    argc = static_cast<int>(end - argv);
+    return plan;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    const BenchPlan plan = TakePlan(argc, argv);
     benchmark::Initialize(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir folder;
-    BenchHomes::Make(folder.path());
+    BenchHomes::SetFolder(folder.path());
+    BenchHomes::Use(600);
 
     Runtime runtime(argc, argv);
     PreparePictures();
     App app;
     MenuBar1 menuBar;
     app.SetMenuBar(menuBar);
-    return Measure(app);
+    return Measure(app, plan);
 }
