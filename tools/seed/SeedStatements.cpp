@@ -79,8 +79,9 @@ QStringList SchemaStatements() {
                        "DrinkID INTEGER)"),
         QStringLiteral("CREATE TABLE Setup (AppLeft INTEGER, AppTop INTEGER, AppWidth INTEGER, AppHeight INTEGER, "
                        "UserOptions TEXT, LastUpdateCheck TEXT, DBVersion INTEGER)"),
-        QStringLiteral("CREATE INDEX DrinksByName ON Drinks (DrinkName)"),
-        QStringLiteral("CREATE INDEX DrinkRecipesByDrink ON DrinkRecipes (DrinkID)"),
+        QStringLiteral("CREATE INDEX DrinksByName ON Drinks (DrinkName, IngredientList, UserRating, DrinkTypeID, "
+                       "GlassTypeID)"),
+        QStringLiteral("CREATE INDEX DrinkRecipesByDrink ON DrinkRecipes (DrinkID, Required, IngredientID)"),
         QStringLiteral("CREATE INDEX DrinkRecipesByIngredient ON DrinkRecipes (IngredientID)"),
         QStringLiteral("CREATE INDEX IngredientsByName ON Ingredients (IngredientName)"),
         QStringLiteral("CREATE INDEX IngredientsByParent ON Ingredients (IngredientParentID)"),
