@@ -1,5 +1,6 @@
 #include "platform/ui/Application.h"
 
+#include "platform/base/FreedMemory.h"
 #include "platform/ui/Events.h"
 #include "platform/ui/MenuBar.h"
 #include "platform/ui/OpenWindows.h"
@@ -113,6 +114,7 @@ struct Runtime::State {
 };
 
 Runtime::Runtime(int& argc, char** argv) {
+    KeepFreedMemory();
     Connect(argc, argv);
     Spoken::Install();
     QApplication::setStyle(new Style);
