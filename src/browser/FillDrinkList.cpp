@@ -31,16 +31,16 @@ void AddDrinkRow(const App& app, Listbox& list, const RecordSet& rs) {
     list.SetCellTag(row, 0, rs.Field("DrinkID").IntegerValue());
 
     int column = app.Option_ViewRatings ? 1 : 0;
-    list.SetCell(row, column++, rs.Field("DrinkName").StringValue());
-    list.SetCell(row, column++, rs.Field("IngredientList").StringValue());
-    if (app.Option_ViewDrinkType) {
-        list.SetCell(row, column++, rs.Field("DrinkTypeName").StringValue());
-    }
-    if (app.Option_ViewGlass) {
-        list.SetCell(row, column, rs.Field("GlassTypeName").StringValue());
-    }
+    list.SetCell(row, column++, rs.Field("DrinkName"));
+    list.SetCell(row, column++, rs.Field("IngredientList"));
     if (app.Option_ViewRatings) {
         list.SetRowPicture(row, RatingPicture(rs.Field("UserRating").IntegerValue()));
+    }
+    if (app.Option_ViewDrinkType) {
+        list.SetCell(row, column++, rs.Field("DrinkTypeName"));
+    }
+    if (app.Option_ViewGlass) {
+        list.SetCell(row, column, rs.Field("GlassTypeName"));
     }
 }
 

@@ -56,13 +56,16 @@ void RecordRows::IndexNames() {
 }
 
 std::size_t RecordRows::FindColumn(std::string_view name, std::size_t hint) const {
-    const std::string_view bare = BareName(name);
-    const std::size_t width = bareNames_.size();
-    for (std::size_t step = 0; step < width && !bare.empty(); ++step) {
-        const std::size_t column = (hint + step) % width;
-        if (SameName(bareNames_[column], bare)) {
-            return column;
-        }
+    // Nearly always it is the next one, and nearly always the name is written as the statement has it.
+    if (hint < bareNames_.size() && bareNames_[hint] == name && !name.empty()) {
+        return hint;
     }
-    return NoColumn;
+    const std::string_view bare = BareName(name);
+    const auto same = [bare](std::string_view known) { return known == bare; };
+    auto found = bare.empty() ? bareNames_.end() : std::find_if(bareNames_.begin(), bareNames_.end(), same);
+    if (found == bareNames_.end() && !bare.empty()) {
+        found = std::find_if(bareNames_.begin(), bareNames_.end(),
+                             [bare](std::string_view known) { return SameName(known, bare); });
+    }
+    return found == bareNames_.end() ? NoColumn : static_cast<std::size_t>(found - bareNames_.begin());
 }

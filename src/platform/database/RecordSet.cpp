@@ -57,6 +57,15 @@ QString DatabaseField::StringValue() const {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
+void DatabaseField::AppendUtf8(std::string& text) const {
+    const RecordRows::Cell& cell = rows_->cells[cell_];
+    if (cell.kind == RecordRows::Cell::Kind::Text) {
+        text.append(rows_->Text(cell));
+    } else if (cell.kind == RecordRows::Cell::Kind::Number) {
+        text.append(std::to_string(cell.value));
+    }
+}
+
 int DatabaseField::IntegerValue() const {
     const RecordRows::Cell& cell = rows_->cells[cell_];
     if (cell.kind == RecordRows::Cell::Kind::Number) {

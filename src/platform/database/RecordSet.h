@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 
 struct RecordRows;
 
@@ -17,6 +18,9 @@ public:
 
     // The value as text; a NULL is the empty text. A number reads as the engine writes it.
     QString StringValue() const;
+
+    // Appends the same text in UTF-8.
+    void AppendUtf8(std::string& text) const;
 
     // The value as an integer by the rules of `CLong`; a NULL is 0. A number beyond 32 bits gives the nearest.
     int IntegerValue() const;

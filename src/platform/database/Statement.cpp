@@ -95,21 +95,23 @@ bool Statement::Step() {
     return code == SQLITE_ROW;
 }
 
+// The values are asked directly: the functions for a column look each of them up, and take a lock, at every call. That
+// is allowed where no other thread uses the connection.
 void Statement::ReadRow(RecordRows& rows) const {
-    sqlite3_stmt* row = statement_.get();
-    const int width = sqlite3_data_count(row);
+    const int width = sqlite3_data_count(statement_.get());
     for (int column = 0; column < width; ++column) {
-        switch (sqlite3_column_type(row, column)) {
+        sqlite3_value* value = sqlite3_column_value(statement_.get(), column);
+        switch (sqlite3_value_type(value)) {
             case SQLITE_NULL:
                 rows.AddNull();
                 break;
             case SQLITE_INTEGER:
-                rows.AddNumber(sqlite3_column_int64(row, column));
+                rows.AddNumber(sqlite3_value_int64(value));
                 break;
             default:
                 // The text is asked for before its length, because the engine may convert it only then.
-                const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-                rows.AddText({text != nullptr ? text : "", std::size_t(sqlite3_column_bytes(row, column))});
+                const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+                rows.AddText({text != nullptr ? text : "", std::size_t(sqlite3_value_bytes(value))});
         }
     }
     ++rows.count;

@@ -1,6 +1,9 @@
 #include "platform/ui/ListModel.h"
 
+#include "platform/database/RecordSet.h"
 #include "platform/ui/Picture.h"
+
+#include <QByteArray>
 
 #include <algorithm>
 #include <numeric>
@@ -33,13 +36,18 @@ void ListModel::Remove(int row) {
 }
 
 void ListModel::Clear() {
-    if (rows_.empty()) {
-        return;
+    const bool hadRows = !rows_.empty();
+    if (hadRows) {
+        beginResetModel();
     }
-    beginResetModel();
+    // The blocks keep their memory: a list that is cleared is filled again.
     rows_.clear();
+    cells_.clear();
+    texts_.clear();
     announced_ = 0;
-    endResetModel();
+    if (hadRows) {
+        endResetModel();
+    }
 }
 
 void ListModel::Announce() {
@@ -51,38 +59,56 @@ void ListModel::Announce() {
 }
 
 QString ListModel::Text(int row, int column) const {
-    const std::vector<QString>& cells = rows_[static_cast<std::size_t>(row)].cells;
-    const auto place = static_cast<std::size_t>(column);
-    return place < cells.size() ? cells[place] : QString();
+    const Cell* cell = FindCell(row, column);
+    if (cell == nullptr) {
+        return {};
+    }
+    const std::string_view text = TextOf(*cell);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 void ListModel::SetText(int row, int column, const QString& text) {
-    std::vector<QString>& cells = rows_[static_cast<std::size_t>(row)].cells;
-    const auto place = static_cast<std::size_t>(column);
-    if (place >= cells.size()) {
-        cells.resize(place + 1);
+    const std::size_t begin = texts_.size();
+    const QByteArray bytes = text.toUtf8();
+    texts_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    TakeAppended(row, column, begin);
+}
+
+void ListModel::SetText(int row, int column, const DatabaseField& field) {
+    const std::size_t begin = texts_.size();
+    field.AppendUtf8(texts_);
+    TakeAppended(row, column, begin);
+}
+
+// A text that fits where the old one stands goes there, so that cells that change often take no more memory.
+void ListModel::TakeAppended(int row, int column, std::size_t begin) {
+    Cell& cell = MakeCell(row, column);
+    const std::size_t length = texts_.size() - begin;
+    const std::string_view text = std::string_view(texts_).substr(begin);
+    if (text == TextOf(cell)) {
+        texts_.resize(begin);
+        return;
     }
-    if (cells[place] != text) {
-        cells[place] = text;
-        CellChanged(row, column);
+    if (length <= cell.length) {
+        texts_.replace(cell.begin, length, texts_, begin, length);
+        texts_.resize(begin);
+    } else {
+        cell.begin = begin;
     }
+    cell.length = static_cast<unsigned>(length);
+    CellChanged(row, column);
 }
 
 bool ListModel::Check(int row, int column) const {
-    const std::vector<bool>& checks = rows_[static_cast<std::size_t>(row)].checks;
-    const auto place = static_cast<std::size_t>(column);
-    return place < checks.size() && checks[place];
+    const Cell* cell = FindCell(row, column);
+    return cell != nullptr && cell->checked;
 }
 
 void ListModel::SetCheck(int row, int column, bool checked) {
-    if (checked == Check(row, column)) {
-        return;
+    if (checked != Check(row, column)) {
+        MakeCell(row, column).checked = checked;
+        CellChanged(row, column);
     }
-    std::vector<bool>& checks = rows_[static_cast<std::size_t>(row)].checks;
-    const auto place = static_cast<std::size_t>(column);
-    checks.resize(std::max(checks.size(), place + 1));
-    checks[place] = checked;
-    CellChanged(row, column);
 }
 
 // Paint events may make the other cells of the row follow the picture. They are told one by one, because a view paints
@@ -159,7 +185,7 @@ void ListModel::Sort(const std::function<bool(int row1, int row2)>& isBefore) {
     std::vector<int> newPlace(rows_.size());
     for (const int row : order) {
         newPlace[static_cast<std::size_t>(row)] = static_cast<int>(sorted.size());
-        sorted.push_back(std::move(rows_[static_cast<std::size_t>(row)]));
+        sorted.push_back(rows_[static_cast<std::size_t>(row)]);
     }
     rows_ = std::move(sorted);
     const QModelIndexList before = persistentIndexList();
@@ -240,19 +266,50 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
 }
 
 QString ListModel::BoxName(int row) const {
-    for (const QString& text : rows_[static_cast<std::size_t>(row)].cells) {
-        if (!text.isEmpty()) {
-            return text.trimmed();
+    for (int column = 0; column < columnCount_; ++column) {
+        if (const QString text = Text(row, column).trimmed(); !text.isEmpty()) {
+            return text;
         }
     }
     return {};
 }
 
-ListModel::Row ListModel::MakeRow(const QString& text) const {
+ListModel::Row ListModel::MakeRow(const QString& text) {
     Row row;
-    row.cells.resize(static_cast<std::size_t>(columnCount_));
-    row.cells[0] = text;
+    row.firstCell = cells_.size();
+    row.cellCount = columnCount_;
+    cells_.resize(cells_.size() + static_cast<std::size_t>(columnCount_));
+    if (!text.isEmpty()) {
+        const QByteArray bytes = text.toUtf8();
+        cells_[row.firstCell].begin = texts_.size();
+        cells_[row.firstCell].length = static_cast<unsigned>(bytes.size());
+        texts_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
     return row;
+}
+
+const ListModel::Cell* ListModel::FindCell(int row, int column) const {
+    const Row& found = rows_[static_cast<std::size_t>(row)];
+    return column < found.cellCount ? &cells_[found.firstCell + static_cast<std::size_t>(column)] : nullptr;
+}
+
+ListModel::Cell& ListModel::MakeCell(int row, int column) {
+    Row& grown = rows_[static_cast<std::size_t>(row)];
+    if (column >= grown.cellCount) {
+        // The cells of a row stand side by side, so they move to where there is room for more.
+        const std::size_t moved = cells_.size();
+        cells_.resize(moved + static_cast<std::size_t>(column) + 1);
+        for (int place = 0; place < grown.cellCount; ++place) {
+            cells_[moved + static_cast<std::size_t>(place)] = cells_[grown.firstCell + static_cast<std::size_t>(place)];
+        }
+        grown.firstCell = moved;
+        grown.cellCount = column + 1;
+    }
+    return cells_[grown.firstCell + static_cast<std::size_t>(column)];
+}
+
+std::string_view ListModel::TextOf(const Cell& cell) const {
+    return std::string_view(texts_).substr(cell.begin, cell.length);
 }
 
 void ListModel::CellChanged(int row, int column) {

@@ -4,11 +4,20 @@
 
 #include <QAbstractTableModel>
 
+#include <cstddef>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
+
+class DatabaseField;
 
 // For the layer itself: the rows of a list. Rows that were added are told to the view late, by Announce, so that
 // filling a list costs one notification and not one a row.
+//
+// No row or cell has memory of its own: all cells stand in one block and all texts in another, as UTF-8, so that rows
+// are added and dropped by the hundred thousand without a call for each. What a longer text or a removed row leaves
+// unused goes with the next Clear.
 class ListModel : public QAbstractTableModel {
 public:
     ListModel();
@@ -28,6 +37,8 @@ public:
 
     [[nodiscard]] QString Text(int row, int column) const;
     void SetText(int row, int column, const QString& text);
+    // The same for the text of a field.
+    void SetText(int row, int column, const DatabaseField& field);
     [[nodiscard]] int Tag(int row) const { return rows_[static_cast<std::size_t>(row)].tag; }
     void SetTag(int row, int tag) { rows_[static_cast<std::size_t>(row)].tag = tag; }
     [[nodiscard]] bool Check(int row, int column) const;
@@ -61,10 +72,14 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    struct Cell {
+        std::size_t begin = 0; // of its text in `texts_`
+        unsigned length = 0;   // in bytes
+        bool checked = false;
+    };
     struct Row {
-        std::vector<QString> cells;
-        // Of the columns up to the last one that was ever ticked.
-        std::vector<bool> checks;
+        std::size_t firstCell = 0;
+        int cellCount = 0; // columns that came later have no cell until they are given something
         int tag = 0;
         const Picture* picture = nullptr;
     };
@@ -77,11 +92,19 @@ private:
 
     // What the box of a row without a text of its own is called: the first text of the row.
     [[nodiscard]] QString BoxName(int row) const;
-    [[nodiscard]] Row MakeRow(const QString& text) const;
+    [[nodiscard]] Row MakeRow(const QString& text);
+    // Null for a column that came later and was given nothing yet.
+    [[nodiscard]] const Cell* FindCell(int row, int column) const;
+    Cell& MakeCell(int row, int column);
+    [[nodiscard]] std::string_view TextOf(const Cell& cell) const;
+    // Gives the cell the text that was just appended to `texts_`, from `begin` on.
+    void TakeAppended(int row, int column, std::size_t begin);
     void CellChanged(int row, int column);
     Column& ColumnAt(int column);
 
     std::vector<Row> rows_;
+    std::vector<Cell> cells_;
+    std::string texts_;
     std::vector<Column> columns_;
     int columnCount_ = 1;
     int announced_ = 0;

@@ -134,6 +134,12 @@ void Listbox::SetCell(int row, int column, const QString& text) {
     model_->SetText(row, column, text);
 }
 
+void Listbox::SetCell(int row, int column, const DatabaseField& field) {
+    CheckRow(*model_, row);
+    CheckColumn(column, model_->ColumnCount());
+    model_->SetText(row, column, field);
+}
+
 int Listbox::CellTag(int row, int column) const {
     CheckRow(*model_, row);
     CheckColumn(column, 1);

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+class DatabaseField;
 class EditField;
 class Graphics;
 class ListModel;
@@ -116,6 +117,9 @@ public:
 
     [[nodiscard]] QString Cell(int row, int column) const;
     void SetCell(int row, int column, const QString& text);
+    // The same with the text of a field, without the way over a QString: a list that is filled from a select has
+    // hundreds of thousands of cells.
+    void SetCell(int row, int column, const DatabaseField& field);
     // A number that the list keeps for the logic. Only column 0 has one.
     [[nodiscard]] int CellTag(int row, int column) const;
     void SetCellTag(int row, int column, int tag);
