@@ -2,6 +2,7 @@
 
 #include "platform/ui/Events.h"
 #include "platform/ui/Graphics.h"
+#include "platform/ui/LineWidths.h"
 #include "platform/ui/ListModel.h"
 #include "platform/ui/Picture.h"
 
@@ -34,26 +35,12 @@ QSize BoxSize(const QStyleOptionViewItem& option) {
             style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget)};
 }
 
-// The capitals stand in the middle of the row, whatever space the font leaves above and below them.
-void DrawLine(QPainter& painter, const QRect& room, TextAlignment alignment, const QString& text) {
-    const QFontMetricsF font(painter.font());
-    QString line = text;
-    qreal width = font.horizontalAdvance(line);
-    // To shorten a text costs several times as much as to measure it.
-    if (width > room.width()) {
-        line = font.elidedText(text, Qt::ElideRight, room.width());
-        width = font.horizontalAdvance(line);
-    }
-    const qreal free = room.width() - width;
-    const qreal before = alignment == TextAlignment::Left ? 0 : alignment == TextAlignment::Centre ? free / 2 : free;
-    const int baseline = static_cast<int>((room.height() + font.capHeight()) / 2);
-    painter.drawText(QPointF(room.left() + before, baseline), line);
-}
-
 } // namespace
 
 ListPainter::ListPainter(Listbox& list, ListModel& model, QObject* parent)
     : QStyledItemDelegate(parent), list_(list), model_(model) {}
+
+ListPainter::~ListPainter() = default;
 
 void ListPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const int row = index.row();
@@ -142,4 +129,28 @@ void ListPainter::PaintText(QPainter& painter, const QStyleOptionViewItem& optio
     const bool centred = model_.Alignment(column) == TextAlignment::Centre;
     const QRect room(centred ? 0 : left, 0, cell.width() - (centred ? 0 : left + textMargin), cell.height());
     DrawLine(painter, room, model_.Alignment(column), shown);
+}
+
+// The capitals stand in the middle of the row, whatever space the font leaves above and below them.
+void ListPainter::DrawLine(QPainter& painter, const QRect& room, TextAlignment alignment, const QString& text) const {
+    const QFontMetricsF font(painter.font());
+    const QString line = Shortened(text, painter.font(), room.width());
+    qreal before = 0;
+    // Measuring a text costs as much as drawing it, and most texts stand at the left.
+    if (alignment != TextAlignment::Left) {
+        const qreal free = room.width() - font.horizontalAdvance(line);
+        before = alignment == TextAlignment::Centre ? free / 2 : free;
+    }
+    const int baseline = static_cast<int>((room.height() + font.capHeight()) / 2);
+    painter.drawText(QPointF(room.left() + before, baseline), line);
+}
+
+// Qt sets the whole text to shorten it, and to find that it need not be shortened.
+QString ListPainter::Shortened(const QString& text, const QFont& font, int width) const {
+    if (!widths_ || widths_->Font() != font) {
+        widths_ = std::make_unique<LineWidths>(font);
+    }
+    return widths_->Fits(text, width)
+               ? text
+               : QFontMetricsF(font).elidedText(widths_->Cut(text, width), Qt::ElideRight, width);
 }

@@ -1,0 +1,45 @@
+#include "platform/ui/LineWidths.h"
+
+#include <QFontMetricsF>
+
+namespace {
+
+constexpr qreal open = 0.1;
+constexpr char16_t firstPrintable = u' ';
+
+} // namespace
+
+LineWidths::LineWidths(const QFont& font) : font_(font) {
+    const QFontMetricsF metrics(font);
+    for (char16_t letter = firstPrintable; letter < widths_.size(); ++letter) {
+        widths_[letter] = metrics.horizontalAdvance(QChar(letter));
+    }
+}
+
+bool LineWidths::Fits(const QString& text, qreal width) const {
+    bool plain = true;
+    return CountWithin(text, width * (1 - open), plain) == text.size() && plain;
+}
+
+QString LineWidths::Cut(const QString& text, qreal width) const {
+    bool plain = true;
+    const qsizetype count = CountWithin(text, width * (1 + open), plain);
+    // The one that crosses the width stays.
+    return plain ? text.left(count + 1) : text;
+}
+
+qsizetype LineWidths::CountWithin(const QString& text, qreal width, bool& plain) const {
+    qreal sum = 0;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        const char16_t letter = text[place].unicode();
+        if (letter < firstPrintable || letter >= widths_.size()) {
+            plain = false;
+            return text.size();
+        }
+        sum += widths_[letter];
+        if (sum > width) {
+            return place;
+        }
+    }
+    return text.size();
+}
