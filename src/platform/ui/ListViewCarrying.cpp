@@ -69,7 +69,7 @@ void ListView::MarkForDrop(int row) {
 }
 
 void ListView::Drop() {
-    const QPointer<ListView> from = carriedFrom_;
+    const QPointer<ListView> from(carriedFrom_.data());
     const DragItem item = carried_;
     const QPoint place = InList(visualRect(currentIndex()).center());
     StopCarrying();
@@ -83,7 +83,7 @@ void ListView::Drop() {
 
 void ListView::StopCarrying() {
     if (carriedFrom_ != nullptr) {
-        carriedFrom_ = nullptr;
+        carriedFrom_.clear();
         MarkForDrop(FirstSelectedRow());
     }
 }
