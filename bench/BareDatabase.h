@@ -13,8 +13,8 @@ struct sqlite3_stmt;
 // process with the engine's words.
 class BareDatabase {
 public:
-    // Opens with the raw key, as the program does from its second connection on. The page cache is empty then, and as
-    // large as the program's, so that a comparison tells what the program's own work costs.
+    // Opens as the program does from its second connection on, with the raw key and for one thread. The page cache is
+    // empty then, and as large as the program's, so that a comparison tells what the program's own work costs.
     explicit BareDatabase(const QString& path);
 
     // Runs one statement, reads every cell of every row, and drops it. The result is the number of rows.
