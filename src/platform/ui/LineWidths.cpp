@@ -5,14 +5,14 @@
 namespace {
 
 constexpr qreal open = 0.1;
-constexpr char16_t firstPrintable = u' ';
+constexpr std::size_t firstPrintable = u' ';
 
 } // namespace
 
 LineWidths::LineWidths(const QFont& font) : font_(font) {
     const QFontMetricsF metrics(font);
-    for (char16_t letter = firstPrintable; letter < widths_.size(); ++letter) {
-        widths_[letter] = metrics.horizontalAdvance(QChar(letter));
+    for (std::size_t letter = firstPrintable; letter < widths_.size(); ++letter) {
+        widths_[letter] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(letter)));
     }
 }
 
@@ -24,14 +24,14 @@ bool LineWidths::Fits(const QString& text, qreal width) const {
 QString LineWidths::Cut(const QString& text, qreal width) const {
     bool plain = true;
     const qsizetype count = CountWithin(text, width * (1 + open), plain);
-    // The one that crosses the width stays.
-    return plain ? text.left(count + 1) : text;
+    // The letter that crosses the width stays, and one more: a single letter Qt never shortens.
+    return plain ? text.left(count + 2) : text;
 }
 
 qsizetype LineWidths::CountWithin(const QString& text, qreal width, bool& plain) const {
     qreal sum = 0;
     for (qsizetype place = 0; place < text.size(); ++place) {
-        const char16_t letter = text[place].unicode();
+        const std::size_t letter = text[place].unicode();
         if (letter < firstPrintable || letter >= widths_.size()) {
             plain = false;
             return text.size();
