@@ -78,7 +78,8 @@ class Desktop:
         read, write = os.pipe()
         # Without -noreset the screen starts anew when its last client goes, and refuses whoever comes meanwhile.
         size = f"{int(1280 * self.scale)}x{int(900 * self.scale)}x24"
-        self.Run("Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
+        # With -r a key that a busy machine lets go late does not repeat.
+        self.Run("Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp", "-noreset", "-r",
                  pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as pipe:
