@@ -13,6 +13,16 @@ bool EditIsSettled(Listbox& list) {
     return list.ActiveCell() == nullptr;
 }
 
+// A start that could not read the file leaves the list empty and without its columns. A second try brings it up, or
+// tells why not.
+bool IsFilled(const Listbox& list) {
+    return list.ListCount() > 0 || App::Instance().FillDrinkListsList();
+}
+
+bool CanAddRow(Listbox& list) {
+    return EditIsSettled(list) && IsFilled(list);
+}
+
 // The row has no id until its name is accepted.
 void AddUnsavedRow(Listbox& list) {
     list.AddRow(QString());
@@ -35,7 +45,7 @@ void EditLastRow(Listbox& list) {
 bool App::_File_NewDrinklist_Action() {
     MainWindow& window = MainWindow::Instance();
     window.DrinkListAdd.SetBackdrop(NamedPicture(QStringLiteral("AddDrinkList")));
-    if (EditIsSettled(window.DrinkListsList)) {
+    if (CanAddRow(window.DrinkListsList)) {
         AddUnsavedRow(window.DrinkListsList);
         EditLastRow(window.DrinkListsList);
     }
@@ -53,7 +63,7 @@ void MainWindow::DrinkListAdd_MouseExit() {
 
 void MainWindow::DrinkListAdd_MouseUp() {
     DrinkListAdd.SetBackdrop(NamedPicture(QStringLiteral("AddDrinkList")));
-    if (!EditIsSettled(DrinkListsList)) {
+    if (!CanAddRow(DrinkListsList)) {
         return;
     }
     AddUnsavedRow(DrinkListsList);

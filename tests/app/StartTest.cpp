@@ -65,4 +65,7 @@ TEST_F(StartTest, AFillThatFailsStopsTheLaterOnesAndLeavesTheWindowOpen) {
     EXPECT_EQ(LastMessage().text, "Could not query the database for drink lists:  no such table: DrinkLists");
     EXPECT_EQ(Window().InBarList.ListCount(), 1);
     EXPECT_EQ(Window().DrinkList.ListCount(), 0);
+    AnswerNextMessage();
+    Choose("File_NewDrinklist");
+    EXPECT_EQ(Window().DrinkListsList.ListCount(), 0) << "it tries to fill the list once more";
 }
