@@ -39,7 +39,9 @@ public:
 
     // Starts, does so many operations, and closes. A start that the program itself ends is the end.
     void Work(int operations) {
-        StartAgain();
+        Begin("start", {});
+        Start();
+        End();
         for (int done = 0; done < operations && !Runtime::HasQuit(); ++done) {
             DoOne();
             End();
@@ -106,29 +108,29 @@ private:
 
     void NewList() {
         Choose("File_NewDrinklist");
-        EnterListName("new list", {});
+        if (Window().DrinkListsList.ActiveCell() != nullptr) {
+            EnterListName("new list", {});
+        }
     }
 
     void RenameList() {
-        if (SelectList()) {
-            const QString before = ListName();
+        if (const QString list = SelectList(); !list.isEmpty()) {
             const QPoint middle = ShowCell(Window(), "DrinkListsList", Window().DrinkListsList.ListIndex(), 1);
-            QTest::mouseDClick(Lists()->viewport(), Qt::LeftButton, {}, middle);
-            EnterListName("rename list", {{"list", before}});
+            QTest::mouseDClick(Find<QTableView>("DrinkListsList")->viewport(), Qt::LeftButton, {}, middle);
+            EnterListName("rename list", {{"list", list}});
         }
     }
 
     void DeleteList() {
-        if (SelectList()) {
-            Begin("delete list", {{"list", ListName()}});
+        if (const QString list = SelectList(); !list.isEmpty()) {
+            Begin("delete list", {{"list", list}});
             Choose("File_DeleteList");
         }
     }
 
     void DropDrinks() {
-        if (SelectList()) {
+        if (const QString list = SelectList(); !list.isEmpty()) {
             Listbox& lists = Window().DrinkListsList;
-            const QString list = ListName();
             const int row = lists.ListIndex();
             ShowList(0);
             Begin("drop drinks", {{"list", list}, {"drinks", SelectDrinks(4)}});
@@ -139,8 +141,8 @@ private:
     }
 
     void TakeOutDrinks() {
-        if (SelectList()) {
-            Begin("take out drinks", {{"list", ListName()}, {"drinks", SelectDrinks(3)}});
+        if (const QString list = SelectList(); !list.isEmpty()) {
+            Begin("take out drinks", {{"list", list}, {"drinks", SelectDrinks(3)}});
             QTest::keyClick(Find<QTableView>("DrinkList"), Qt::Key_Delete);
         }
     }
@@ -180,24 +182,20 @@ private:
     }
 
     void Close() {
-        Begin("close", {{"left", Window().Left()},
-                        {"top", Window().Top()},
-                        {"width", Window().Width()},
-                        {"height", Window().Height()},
+        const class Window& window = Window();
+        Begin("close", {{"left", window.Left()},
+                        {"top", window.Top()},
+                        {"width", window.Width()},
+                        {"height", window.Height()},
                         {"options", Program().EncodeOptions()}});
         CloseWindow();
-    }
-
-    void StartAgain() {
-        Begin("start", {});
-        Start();
-        End();
     }
 
     void CloseAndStart() {
         Close();
         End();
-        StartAgain();
+        Begin("start", {});
+        Start();
     }
 
     void Begin(const char* operation, QJsonObject what) {
@@ -278,27 +276,23 @@ private:
         }
     }
 
-    // False when this worker has none.
-    [[nodiscard]] bool SelectList() {
+    // Its name; empty when this worker has none.
+    [[nodiscard]] QString SelectList() {
         const std::vector<int> rows = RandomRows(Window().DrinkListsList, 1);
         ShowList(rows.empty() ? 0 : rows.front());
-        return !rows.empty();
+        return rows.empty() ? QString() : Window().DrinkListsList.Cell(rows.front(), 1);
     }
-
-    [[nodiscard]] QString ListName() { return Window().DrinkListsList.Cell(Window().DrinkListsList.ListIndex(), 1); }
-
-    [[nodiscard]] QTableView* Lists() { return Find<QTableView>("DrinkListsList"); }
 
     // A name that could not be saved stays in its cell, and so does the user.
     void EnterListName(const char* operation, QJsonObject what) {
         const QString name = NewName("List");
-        auto* field = Lists()->findChild<QLineEdit*>();
-        field->selectAll();
-        QTest::keyClicks(field, name);
+        const auto* lists = Find<QTableView>("DrinkListsList");
+        lists->findChild<QLineEdit*>()->selectAll();
+        QTest::keyClicks(lists->findChild<QLineEdit*>(), name);
         what["name"] = name;
         Begin(operation, what);
         for (int attempt = 0; attempt < 3 && Window().DrinkListsList.ActiveCell() != nullptr; ++attempt) {
-            QTest::keyClick(Lists()->findChild<QLineEdit*>(), Qt::Key_Return);
+            QTest::keyClick(lists->findChild<QLineEdit*>(), Qt::Key_Return);
         }
     }
 
