@@ -141,7 +141,8 @@ class Mirror:
                (line["drink"], len(rows), ", ".join(row[0] for row in rows)))
         for step, (name, quantity, unit) in enumerate(rows, 1):
             yield "INSERT INTO Ingredients (IngredientName, InBar, Empty) VALUES (?, '0', '0')", (name,)
-            yield (f"""INSERT INTO DrinkRecipes (DrinkID, IngredientID, RecipeStep, IngredientQuantity, UofMID, Required)
+            yield (f"""INSERT INTO DrinkRecipes
+                (DrinkID, IngredientID, RecipeStep, IngredientQuantity, UofMID, Required)
                 VALUES ({DRINK}, (SELECT MAX(IngredientID) FROM Ingredients), :step, :quantity,
                     (SELECT UofMID FROM UnitsOfMeasure WHERE UofM = :unit), 1)""",
                    {"drink": line["drink"], "step": step, "quantity": quantity, "unit": unit})

@@ -76,8 +76,8 @@ class Worker:
 
 
 def Main(doc, run, **options):
-    """Runs it with the options, a random generator, a folder and the figures to be printed. A finding ends it; then
-    the files are kept."""
+    """Runs it with the options, a random generator, a folder and the figures to be printed. A finding ends it, and so
+    does Ctrl+C; then the files are kept."""
     parser = argparse.ArgumentParser(description=doc)
     for name, default in dict(options, seed=random.randrange(1 << 30)).items():
         parser.add_argument("--" + name, type=type(default), default=default)
@@ -90,6 +90,8 @@ def Main(doc, run, **options):
         shutil.rmtree(folder)
     except (Finding, AssertionError) as finding:
         found = f"FINDING, files kept in {folder}: {finding}"
+    except KeyboardInterrupt:
+        found = f"stopped by hand, files kept in {folder}"
     print(f"seed {chosen.seed}")
     for what, count in figures.items():
         print(f"{count:6} {what}")
