@@ -22,10 +22,14 @@ TEST_F(StartTest, ClosingStoresWindowAndOptionsAndTheNextStartRestoresThem) {
         Choose(column);
     }
     Program().Option_ShareRatings = true;
+    Window().SetLeft(-60);
+    Window().SetTop(-40);
     Window().SetWidth(900);
     Window().SetHeight(700);
     CloseWindow();
-    EXPECT_EQ(Value("SELECT AppWidth || ' ' || AppHeight || ' ' || UserOptions FROM Setup"), "900 700 V02V01V03V05");
+    EXPECT_EQ(Value("SELECT AppWidth || ' ' || AppHeight || ' ' || AppLeft || ' ' || AppTop || ' ' || UserOptions "
+                    "FROM Setup"),
+              "900 700 -60 -40 V02V01V03V05");
     Start();
     EXPECT_EQ(Headings(), "Rating,Cocktail,Ingredients,Type,Glass");
     EXPECT_EQ(Program().ApplicationMenuBar().Item("View_DrinkTypeColumn").Text(), "Hide Drink Type Column");
