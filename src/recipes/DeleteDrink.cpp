@@ -1,4 +1,5 @@
 #include "platform/base/Text.h"
+#include "platform/ui/MsgBox.h"
 #include "shell/App.h"
 #include "shell/Confirmed.h"
 #include "shell/MainWindow.h"
@@ -12,9 +13,11 @@ bool Run(REALSQLDatabase& db, const QString& statement, const QString& failure) 
     return Succeeded(db, failure);
 }
 
+constexpr auto Unused = "An error occurred removing the ingredients no longer used: ";
+
 // Whoever made the ingredient, and also when it is at home: what no recipe names any more goes.
 bool RemoveUnusedIngredients(REALSQLDatabase& db, RecordSet& recipe) {
-    const QString failure = QStringLiteral("An error occurred removing the ingredients no longer used: ");
+    const QString failure = QString::fromLatin1(Unused);
     for (; !recipe.Eof(); recipe.MoveNext()) {
         const QString ingredient = recipe.Field("IngredientID").StringValue();
         RecordSet users =
@@ -40,16 +43,23 @@ bool App::DeleteDrink(int DrinkID) {
         return false;
     }
     const QString id = CStr(DrinkID);
-    // Read first: the next statement removes what it reads.
+    // Read first: the next statement removes what it reads. The drink goes also when this cannot be read; what is told
+    // then is that its ingredients stay.
     RecordSet recipe = db.SQLSelect(QStringLiteral("SELECT IngredientID FROM DrinkRecipes WHERE DrinkID = ") + id);
-    const QString failure = QStringLiteral("An error occurred removing drink recipe steps: ");
-    return Succeeded(db, failure) &&
-           Run(db, QStringLiteral("DELETE FROM DrinkRecipes WHERE DrinkID = ") + id, failure) &&
-           Run(db, QStringLiteral("DELETE FROM Drinks WHERE DrinkID = ") + id,
-               QStringLiteral("An error occurred removing the drink: ")) &&
-           Run(db, QStringLiteral("DELETE FROM DrinkListXRef WHERE DrinkID = ") + id,
-               QStringLiteral("An error occurred removing the drink from drinklists: ")) &&
-           RemoveUnusedIngredients(db, recipe);
+    const QString unread = db.ErrorMessage();
+    if (!Run(db, QStringLiteral("DELETE FROM DrinkRecipes WHERE DrinkID = ") + id,
+             QStringLiteral("An error occurred removing drink recipe steps: ")) ||
+        !Run(db, QStringLiteral("DELETE FROM Drinks WHERE DrinkID = ") + id,
+             QStringLiteral("An error occurred removing the drink: ")) ||
+        !Run(db, QStringLiteral("DELETE FROM DrinkListXRef WHERE DrinkID = ") + id,
+             QStringLiteral("An error occurred removing the drink from drinklists: "))) {
+        return false;
+    }
+    if (recipe.IsNil()) {
+        MsgBox(QString::fromLatin1(Unused) + unread);
+        return false;
+    }
+    return RemoveUnusedIngredients(db, recipe);
 }
 
 bool App::DeleteSelectedDrinks() {
