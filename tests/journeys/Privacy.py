@@ -86,7 +86,7 @@ def WriteRecipe(screen):
     # Few looks at the screen: under the trace each takes long.
     Desktop.Type("Zanzibar Sling\tAsk the Quokka.\tsou\tcockt\tZanzibar Bitters\t1.5\toz\tQuokka")
     Desktop.Key("Return")
-    Desktop.Key("Tab")
+    Desktop.Xdotool("key", "Tab", "Tab")
     WaitUntilEqual(screen.FocusedName, "Add Recipe", "button with the keyboard")
     Desktop.Key("space")
 
