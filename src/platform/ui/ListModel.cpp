@@ -267,7 +267,7 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
 
 QString ListModel::BoxName(int row) const {
     for (int column = 0; column < columnCount_; ++column) {
-        if (const QString text = Text(row, column).trimmed(); !text.isEmpty()) {
+        if (QString text = Text(row, column).trimmed(); !text.isEmpty()) {
             return text;
         }
     }
