@@ -15,6 +15,12 @@ void ListView::NoteKeyboardUse(const QKeyEvent& event) {
     }
 }
 
+// A key that brought the keyboard here from elsewhere was pressed there, and only its release comes to the list.
+void ListView::keyReleaseEvent(QKeyEvent* event) {
+    NoteKeyboardUse(*event);
+    QTableView::keyReleaseEvent(event);
+}
+
 void ListView::SetKeyboardUsed(bool used) {
     if (keyboardUsed_ != used) {
         keyboardUsed_ = used;
