@@ -64,11 +64,17 @@ bool ListView::MarksCurrentRow() const {
 void ListView::PaintRowMark() {
     const int top = currentIndex().isValid() ? rowViewportPosition(currentIndex().row()) : 0;
     const QRect row(0, top, viewport()->width(), RowHeight());
+    // Well within the row, because a list may reach under its neighbours by a pixel or two.
+    const QRectF mark = QRectF(row).adjusted(4.5, 1.5, -3.5, -0.5);
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Highlight).darker(170));
-    // Well within the row, because a list may reach under its neighbours by a pixel or two.
-    painter.drawRoundedRect(QRectF(row).adjusted(4.5, 1.5, -3.5, -0.5), 3, 3);
+    painter.drawRoundedRect(mark, 3, 3);
+    // The logic may paint the selected row nearly as dark as the mark.
+    if (carriedFrom_ != nullptr) {
+        painter.setPen(palette().color(QPalette::Base));
+        painter.drawRoundedRect(mark.adjusted(1, 1, -1, -1), 2, 2);
+    }
 }
 
 // The mark goes over all columns of a row, and Qt paints only the two cells again.
