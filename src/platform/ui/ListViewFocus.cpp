@@ -29,6 +29,8 @@ void ListView::SetKeyboardUsed(bool used) {
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
+    // The keyboard stands on the first row, also where a window that is just being filled comes to the front.
+    model_.Announce();
     QTableView::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
         SetKeyboardUsed(true);
