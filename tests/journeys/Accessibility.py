@@ -68,7 +68,8 @@ def UseKeyboard(pourbook, library):
     WaitUntilEqual(screen.FocusedName, RANDOM, "focus behind the message")
 
 
-with Desktop.Desktop() as desktop:
+# Large text makes the program connect a second time, and it must be told of all the same.
+with Desktop.Desktop("large text") as desktop:
     pourbook, library = Windows.Start(desktop)
     CheckWindows(pourbook)
     UseKeyboard(pourbook, library)

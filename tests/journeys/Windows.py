@@ -5,6 +5,7 @@ import os
 import Desktop
 import VersionSite
 from Pourbook import TITLE, Home, Pourbook
+from Screen import Has
 from Waiting import WaitFor
 
 NOTICE = "Pourbook Update Available"
@@ -50,11 +51,12 @@ def Walk(pourbook):
         Press(screen.Find(command, atspi.ROLE_MENU_ITEM, anywhere=True))
         title = TITLES.get(command, command)
         window = WaitFor(lambda: screen.Find(title, atspi.ROLE_FRAME), "the window " + title)
+        # Only then a row of it can be told as the one where the keyboard is.
+        WaitFor(lambda: Has(window, atspi.STATE_ACTIVE), "the keyboard in " + title)
         yield title, window
         if command in OTHER_FACE:
             Press(screen.Find(OTHER_FACE[command]))
             yield f"{title}, {OTHER_FACE[command]}", window
-        WaitFor(lambda: Desktop.Xdotool("getactivewindow", "getwindowname") == title, "the keyboard in " + title)
         Desktop.Key("alt+F4")
         pourbook.WaitForWindow()
 
