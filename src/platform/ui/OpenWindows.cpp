@@ -88,10 +88,18 @@ void ComesToFront(Window& window) {
         Qt::SingleShotConnection);
 }
 
-// The focus goes back to this window when the message has been read.
+// The focus goes back to this window when the message has been read. An open menu can be the active window; it goes with
+// the next turn of the event loop, and would take a message that belongs to it along.
 QWidget* MessageParent() {
     QWidget* coming = Coming();
-    return coming != nullptr && coming->isVisible() ? coming : QApplication::activeWindow();
+    if (coming != nullptr && coming->isVisible()) {
+        return coming;
+    }
+    QWidget* active = QApplication::activeWindow();
+    while (active != nullptr && active->windowType() == Qt::Popup) {
+        active = active->parentWidget() != nullptr ? active->parentWidget()->window() : nullptr;
+    }
+    return active;
 }
 
 Window* Any() {
