@@ -106,9 +106,14 @@ void PourbookTest::ClickDrink(int row, int column, int x, Qt::KeyboardModifiers 
 }
 
 // The screen learns late of rows that were just added.
-void PourbookTest::ClickCell(QTableView& list, int row, int column, int x, Qt::KeyboardModifiers modifiers) {
+QRect PourbookTest::ShowCell(QTableView& list, int row, int column) {
     QCoreApplication::processEvents();
-    const QRect cell = list.visualRect(list.model()->index(row, column));
+    list.scrollTo(list.model()->index(row, column));
+    return list.visualRect(list.model()->index(row, column));
+}
+
+void PourbookTest::ClickCell(QTableView& list, int row, int column, int x, Qt::KeyboardModifiers modifiers) {
+    const QRect cell = ShowCell(list, row, column);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, QPoint(cell.left() + x, cell.center().y()));
 }
 

@@ -37,6 +37,8 @@ protected:
     void Choose(const QString& menuItem);
     // x is within the cell.
     void ClickDrink(int row, int column, int x, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // Scrolls to the cell and gives its place.
+    static QRect ShowCell(QTableView& list, int row, int column);
     static void ClickCell(QTableView& list, int row, int column, int x, Qt::KeyboardModifiers modifiers = {});
     void CloseWindow() { Window().Widget()->close(); }
 

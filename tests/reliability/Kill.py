@@ -6,21 +6,27 @@ import shutil
 import tempfile
 import time
 
-from Mirror import ORPHANS, Difference, Finding, Mirror
-from Work import SEED, Home, Library, Main, Worker
+from Mirror import Difference, Finding, Mirror
+from Work import SEED, Library, Main, Trial, Worker
 
 NO_FILE = "Could not open database.  unable to open database file"
 KILLS_A_HOME = 25
 
 
-class Killer:
-    def __init__(self, random, folder, figures):
-        self.random = random
-        self.folder = folder
-        self.figures = figures
-
-    def NewHome(self):
-        return Home(tempfile.mkdtemp(dir=self.folder) + "/home")
+class Kills(Trial):
+    def Run(self):
+        for number in range(self.options.kills):
+            if number % KILLS_A_HOME == 0:
+                home = self.NewHome().GivenLibrary()
+                mirror = Mirror(home.library)
+            choice = self.random.random()
+            if choice < 0.1:
+                self.AtFirstStart()
+            elif choice < 0.3:
+                self.AtUpgrade(home.file)
+            else:
+                self.CheckWork(home, mirror, self.Kill(home, 2.5, 300))
+                self.Restart(home, mirror)
 
     def Kill(self, home, mostSeconds, mostCalls):
         """Starts the program and kills it. Gives what it had begun by then."""
@@ -34,9 +40,8 @@ class Killer:
             raise Finding(f"before the kill: {worker.Messages()}")
         self.figures["kills"] += 1
         self.figures["kills in a change of a file"] += inChange
-        for ending in ("-journal", "-wal"):
-            beside = home.folder / (home.file.name + ending)
-            self.figures["kills that left a *" + ending] += beside.exists() and beside.stat().st_size > 0
+        for path in home.folder.glob("drinkdb.rsd-*[lw]*"):
+            self.figures["kills that left a " + path.name] += path.stat().st_size > 0
         return worker.operations
 
     def Check(self, file, mirror, statements=()):
@@ -61,22 +66,24 @@ class Killer:
             if operation["done"]:
                 mirror.Do(mirror.Statements(operation))
                 self.figures["operations that had returned"] += 1
-        cutOff = operations[-1:] if operations and not operations[-1]["done"] else []
-        done = self.Check(home.file, mirror, [] if not cutOff else mirror.Statements(cutOff[0]))
+        cutOff = [operation for operation in operations if not operation["done"]]
+        done = self.Check(home.file, mirror, mirror.Statements(cutOff[0]) if cutOff else ())
         self.figures["operations cut off"] += len(cutOff)
         self.figures["operations cut off behind their first statement"] += done > 0
-        self.figures["files with a row left alone, as after a failure"] += any(mirror.View(ORPHANS))
 
-    def Restart(self, home, mirror, messages=()):
-        """The next start opens the file, says nothing, and leaves an ordinary file with no other beside it."""
+    def Restart(self, home, mirror=None):
+        """The next start opens the file, says nothing, and leaves an ordinary file with no other beside it. Without a
+        file it says so."""
+        messages = [] if home.file.exists() or not home.folder.exists() else [NO_FILE]
+        self.figures["kills that left no file"] += len(messages)
         worker = Worker(home, 1, 0).End()
-        if worker.Messages() != list(messages) or worker.status != 0:
+        if worker.Messages() != messages or worker.status != 0:
             raise Finding(f"the next start: {worker.Messages()}, status {worker.status}")
-        if not messages:
+        if list(home.folder.glob("drinkdb.rsd-*")):
+            raise Finding("the next start left a file beside")
+        if mirror and not messages:
             mirror.Do(mirror.Statements(worker.operations[-1]))
             self.Check(home.file, mirror)
-            if list(home.folder.glob("drinkdb.rsd-*")):
-                raise Finding("the next start left a file beside")
 
     def AtFirstStart(self):
         home = self.NewHome()
@@ -84,42 +91,17 @@ class Killer:
         operations = self.Kill(home, 0.6, 40)
         if home.file.exists():
             self.CheckWork(home, mirror, operations)
-        withoutFile = home.folder.exists() and not home.file.exists()
-        self.figures["first starts cut off with a folder but no file"] += withoutFile
-        self.Restart(home, mirror, [NO_FILE] if withoutFile else [])
+        self.Restart(home, mirror)
 
     def AtUpgrade(self, file):
+        """What was the user's is there, in the backup if the program had come so far."""
         home = self.NewHome().GivenLibrary(1, file)
         old = Mirror(home.library)
-        mirror = Mirror(Library(str(SEED)))
-        operations = self.Kill(home, 0.8, 60)
-        cutOff = not (operations and operations[0]["done"])
+        self.Kill(home, 0.8, 60)
         self.Check(home.backup if home.backup.exists() else home.file, old)
-        if not home.backup.exists() or not cutOff:
-            mirror.Do(mirror.Upgrade(old))
-        if not cutOff:
-            self.CheckWork(home, mirror, operations)
-        elif home.backup.exists() and home.file.exists():
-            self.Check(home.file, mirror, mirror.Upgrade(old))
-            self.figures["upgrades cut off behind the new file"] += 1
-        self.figures["upgrades cut off before the new file"] += not home.file.exists()
-        self.Restart(home, mirror, [] if home.file.exists() else [NO_FILE])
+        self.Restart(home)
+        if home.backup.exists():
+            self.Check(home.backup, old)
 
 
-def Run(options, random, folder, figures):
-    killer = Killer(random, folder, figures)
-    for number in range(options.kills):
-        if number % KILLS_A_HOME == 0:
-            home = killer.NewHome().GivenLibrary()
-            mirror = Mirror(home.library)
-        choice = random.random()
-        if choice < 0.1:
-            killer.AtFirstStart()
-        elif choice < 0.3:
-            killer.AtUpgrade(home.file)
-        else:
-            killer.CheckWork(home, mirror, killer.Kill(home, 2.5, 300))
-            killer.Restart(home, mirror)
-
-
-Main(__doc__, Run, kills=500)
+Main(__doc__, Kills, kills=500)

@@ -13,26 +13,22 @@ namespace {
 
 int callsLeft = 0;
 
-void DieIfLast() {
-    if (callsLeft > 0 && --callsLeft == 0) {
-        raise(SIGKILL);
-    }
-}
-
 bool IsFile(int number) {
     struct stat found {};
     return callsLeft > 0 && fstat(number, &found) == 0 && S_ISREG(found.st_mode);
 }
 
-void DieIfLastOn(int file) {
-    if (IsFile(file)) {
-        DieIfLast();
-    }
+size_t Written(int file, size_t count) {
+    return callsLeft == 1 && IsFile(file) ? count / 2 : count;
 }
 
 template <class Result, class... Arguments>
-Result System(const char* call, Arguments... arguments) {
-    return reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, call))(arguments...);
+Result Make(const char* call, bool counts, Arguments... arguments) {
+    const auto result = reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, call))(arguments...);
+    if (counts && callsLeft > 0 && --callsLeft == 0) {
+        raise(SIGKILL);
+    }
+    return result;
 }
 
 } // namespace
@@ -44,38 +40,26 @@ void KillAtCall(int call) {
 extern "C" {
 
 ssize_t write(int file, const void* bytes, size_t count) {
-    if (callsLeft == 1 && IsFile(file)) {
-        static_cast<void>(System<ssize_t>("write", file, bytes, count / 2));
-    }
-    DieIfLastOn(file);
-    return System<ssize_t>("write", file, bytes, count);
+    return Make<ssize_t>("write", IsFile(file), file, bytes, Written(file, count));
 }
 
 ssize_t pwrite64(int file, const void* bytes, size_t count, off64_t place) {
-    if (callsLeft == 1 && IsFile(file)) {
-        static_cast<void>(System<ssize_t>("pwrite64", file, bytes, count / 2, place));
-    }
-    DieIfLastOn(file);
-    return System<ssize_t>("pwrite64", file, bytes, count, place);
+    return Make<ssize_t>("pwrite64", IsFile(file), file, bytes, Written(file, count), place);
 }
 
 int fdatasync(int file) {
-    DieIfLastOn(file);
-    return System<int>("fdatasync", file);
+    return Make<int>("fdatasync", IsFile(file), file);
 }
 
 int ftruncate64(int file, off64_t length) noexcept {
-    DieIfLastOn(file);
-    return System<int>("ftruncate64", file, length);
+    return Make<int>("ftruncate64", IsFile(file), file, length);
 }
 
 int unlink(const char* path) noexcept {
-    DieIfLast();
-    return System<int>("unlink", path);
+    return Make<int>("unlink", true, path);
 }
 
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept {
-    DieIfLast();
-    return System<int>("renameat2", fromFolder, from, toFolder, to, flags);
+    return Make<int>("renameat2", true, fromFolder, from, toFolder, to, flags);
 }
 }

@@ -2,10 +2,21 @@
 on a copy in memory."""
 
 import difflib
+import itertools
 import sqlite3
 
 DRINK = "(SELECT DrinkID FROM Drinks WHERE DrinkName = :drink)"
 LIST = "(SELECT DrinkListID FROM DrinkLists WHERE DrinkListName = :list)"
+
+MEMBER = f"DrinkListID = {LIST} AND DrinkID = {DRINK}"
+ONE_STATEMENT = {
+    "rate": f"UPDATE Drinks SET UserRating = :stars WHERE DrinkID = {DRINK}",
+    "flip bottle": "UPDATE Ingredients SET Empty = :empty WHERE IngredientID = :ingredient",
+    "new list": "INSERT INTO DrinkLists (DrinkListName) VALUES (:name)",
+    "rename list": f"UPDATE DrinkLists SET DrinkListName = :name WHERE DrinkListID = {LIST}",
+    "close": "UPDATE Setup SET AppLeft = :left, AppTop = :top, AppWidth = :width, AppHeight = :height, "
+             "UserOptions = :options",
+}
 
 # The day of the last look for a new version is no part of what the user made.
 LEFT_OUT = {"LastUpdateCheck"}
@@ -66,14 +77,13 @@ class Mirror:
 
     def Matches(self, seen, statements):
         """Runs as many of the statements as it takes to come to what was seen. Gives their number, or None."""
-        done = 0
-        while self.View() != seen:
-            statement, values = next(statements, (None, None))
+        for done in itertools.count():
+            if self.View() == seen:
+                return done
+            statement = next(statements, None)
             if statement is None:
                 return None
-            self.db.execute(statement, values)
-            done += 1
-        return done
+            self.Do([statement])
 
     def CheckByName(self, library, operations):
         """Does what was done, in the order in which it was, and compares. What an operation touched that did not end
@@ -100,37 +110,25 @@ class Mirror:
     def Statements(self, line):
         """The statements of an operation of a worker, each made when its turn comes."""
         operation = line["begin"]
-        if operation == "rate":
-            yield f"UPDATE Drinks SET UserRating = :stars WHERE DrinkID = {DRINK}", line
+        if operation in ONE_STATEMENT:
+            yield ONE_STATEMENT[operation], line
         elif operation == "fill bar":
             yield "UPDATE Ingredients SET InBar = 0, Empty = 0", ()
             for ingredient in line["ingredients"]:
                 yield "UPDATE Ingredients SET InBar = 1 WHERE IngredientID = ?", (ingredient,)
-        elif operation == "flip bottle":
-            yield "UPDATE Ingredients SET Empty = :empty WHERE IngredientID = :ingredient", line
-        elif operation == "new list":
-            yield "INSERT INTO DrinkLists (DrinkListName) VALUES (:name)", line
-        elif operation == "rename list":
-            yield f"UPDATE DrinkLists SET DrinkListName = :name WHERE DrinkListID = {LIST}", line
         elif operation == "delete list":
             yield f"DELETE FROM DrinkListXRef WHERE DrinkListID = {LIST}", line
             yield "DELETE FROM DrinkLists WHERE DrinkListName = :list", line
-        elif operation in ("drop drinks", "take out drinks"):
-            for drink in line["drinks"]:
-                pair = dict(line, drink=drink)
-                member = f"DrinkListID = {LIST} AND DrinkID = {DRINK}"
-                if operation == "take out drinks":
-                    yield f"DELETE FROM DrinkListXRef WHERE {member}", pair
-                elif not self.Rows(f"SELECT 1 FROM DrinkListXRef WHERE {member}", pair):
-                    yield f"INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES ({LIST}, {DRINK})", pair
         elif operation == "write recipe":
             yield from self.Recipe(line)
-        elif operation == "delete drinks":
-            for drink in line["drinks"]:
-                yield from self.Deletion(drink)
-        elif operation == "close":
-            yield ("UPDATE Setup SET AppLeft = :left, AppTop = :top, AppWidth = :width, AppHeight = :height, "
-                   "UserOptions = :options"), line
+        for drink in line.get("drinks", ()):
+            pair = dict(line, drink=drink)
+            if operation == "delete drinks":
+                yield from self.Deletion(pair)
+            elif operation == "take out drinks":
+                yield f"DELETE FROM DrinkListXRef WHERE {MEMBER}", pair
+            elif not self.Rows(f"SELECT 1 FROM DrinkListXRef WHERE {MEMBER}", pair):
+                yield f"INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES ({LIST}, {DRINK})", pair
 
     def Recipe(self, line):
         rows = line["rows"]
@@ -145,10 +143,9 @@ class Mirror:
                 (DrinkID, IngredientID, RecipeStep, IngredientQuantity, UofMID, Required)
                 VALUES ({DRINK}, (SELECT MAX(IngredientID) FROM Ingredients), :step, :quantity,
                     (SELECT UofMID FROM UnitsOfMeasure WHERE UofM = :unit), 1)""",
-                   {"drink": line["drink"], "step": step, "quantity": quantity, "unit": unit})
+                   dict(line, step=step, quantity=quantity, unit=unit))
 
-    def Deletion(self, drink):
-        name = {"drink": drink}
+    def Deletion(self, name):
         ingredients = self.Rows(f"SELECT IngredientID FROM DrinkRecipes WHERE DrinkID = {DRINK}", name)
         drinkID = self.Rows("SELECT DrinkID FROM Drinks WHERE DrinkName = :drink", name)[0]
         for table in ("DrinkRecipes", "Drinks", "DrinkListXRef"):
@@ -156,19 +153,3 @@ class Mirror:
         for ingredient in ingredients:
             if not self.Rows("SELECT 1 FROM DrinkRecipes WHERE IngredientID = ?", ingredient):
                 yield "DELETE FROM Ingredients WHERE IngredientID = ?", ingredient
-
-    def Upgrade(self, old):
-        """What is carried over from the mirror of an old file into this one, a new library."""
-        for row in old.Rows("SELECT UserRating, DrinkName FROM Drinks WHERE UserRating IS NOT NULL"):
-            yield "UPDATE Drinks SET UserRating = ? WHERE DrinkName = ?", row
-        for row in old.Rows("SELECT Empty, IngredientName FROM Ingredients WHERE InBar = 1"):
-            yield "UPDATE Ingredients SET InBar = 1, Empty = ? WHERE IngredientName = ?", row
-        previous = None
-        for name, drink in old.Rows("SELECT DrinkListName, DrinkName FROM DrinkListXRef JOIN DrinkLists USING "
-                                    "(DrinkListID) JOIN Drinks USING (DrinkID) ORDER BY DrinkListName"):
-            if name != previous:
-                yield "INSERT INTO DrinkLists (DrinkListName) VALUES (?)", (name,)
-            previous = name
-            if self.Rows("SELECT 1 FROM Drinks WHERE DrinkName = ?", (drink,)):
-                yield (f"INSERT INTO DrinkListXRef (DrinkListID, DrinkID) VALUES ({LIST}, {DRINK})",
-                       {"list": name, "drink": drink})

@@ -31,6 +31,7 @@ class Home:
         self.file = self.folder / "drinkdb.rsd"
         self.backup = self.folder / "drinkdb_v1_backup.rsd"
         self.library = Library(str(self.file))
+        self.program = WORKER
         self.path.mkdir(parents=True)
 
     def GivenLibrary(self, version=2, source=SEED):
@@ -44,7 +45,7 @@ class Home:
 class Worker:
     def __init__(self, home, seed, operations, place=0, workers=1, dieAtCall=0, command=()):
         self.process = subprocess.Popen(
-            [*command, WORKER, *map(str, (home.path, seed, operations, place, workers, dieAtCall))], text=True,
+            [*command, home.program, *map(str, (home.path, seed, operations, place, workers, dieAtCall))], text=True,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=dict(
                 os.environ, QT_QPA_PLATFORM="offscreen", TMPDIR=str(home.path.parent),
                 LSAN_OPTIONS="print_suppressions=0:suppressions=" + os.environ.get("LEAK_SUPPRESSIONS", "")))
@@ -58,41 +59,54 @@ class Worker:
             raise Finding(f"the worker ended with {self.status}: {errors[-2000:]} {said[-2000:]}")
         self.operations = []
         current = None
+        last = 0
         # A line without its end was cut off by a kill.
         for line in map(json.loads, said.split("\n")[:-1]):
             if "begin" in line or "message" in line and not current:
                 current = {"begin": "between", "messages": [], "done": None if "begin" in line else line["time"]} | line
                 self.operations.append(current)
             if "message" in line and not line["message"].startswith(USUAL):
-                current["messages"].append(line)
+                current["messages"].append(line | {"milliseconds": line["time"] - last})
             if "done" in line and current:
                 current["done"] = line["time"]
             if current and current["done"]:
                 current = None
+            last = line["time"]
         return self
 
     def Messages(self):
         return [message["message"] for operation in self.operations for message in operation["messages"]]
 
 
-def Main(doc, run, **options):
-    """Runs it with the options, a random generator, a folder and the figures to be printed. A finding ends it, and so
-    does Ctrl+C; then the files are kept."""
+class Trial:
+    """Names and defaults of its options are given to Main. Run() does it, and raises what it finds."""
+
+    def __init__(self, options, folder):
+        self.options = options
+        self.folder = folder
+        self.random = random.Random(options.seed)
+        self.figures = collections.Counter()
+
+    def NewHome(self, name="home"):
+        return Home(tempfile.mkdtemp(dir=self.folder, prefix=name + " ") + "/home")
+
+
+def Main(doc, trial, **options):
+    """A finding ends it, and so does Ctrl+C; then the files are kept."""
     parser = argparse.ArgumentParser(description=doc)
     for name, default in dict(options, seed=random.randrange(1 << 30)).items():
         parser.add_argument("--" + name, type=type(default), default=default)
-    chosen = parser.parse_args()
-    figures = collections.Counter()
-    folder = pathlib.Path(tempfile.mkdtemp(prefix="pourbook-"))
+    folder = tempfile.mkdtemp(prefix="pourbook-")
+    trial = trial(parser.parse_args(), folder)
     found = None
     try:
-        run(chosen, random.Random(chosen.seed), folder, figures)
+        trial.Run()
         shutil.rmtree(folder)
     except (Finding, AssertionError) as finding:
         found = f"FINDING, files kept in {folder}: {finding}"
     except KeyboardInterrupt:
         found = f"stopped by hand, files kept in {folder}"
-    print(f"seed {chosen.seed}")
-    for what, count in figures.items():
+    print(f"seed {trial.options.seed}")
+    for what, count in trial.figures.items():
         print(f"{count:6} {what}")
     sys.exit(found)

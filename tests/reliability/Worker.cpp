@@ -5,7 +5,7 @@
 #include "recipes/NewRecipe.h"
 
 #include <QComboBox>
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,9 +14,7 @@
 #include <QTest>
 
 #include <algorithm>
-#include <ctime>
 #include <random>
-#include <utility>
 
 namespace {
 
@@ -28,11 +26,15 @@ namespace {
 // afterwards. The bar is everyone's.
 class Worker : public PourbookTest {
 public:
-    Worker(const QString& home, unsigned seed, int place, int workers)
-        : random_(seed), seed_(seed), place_(place), workers_(workers) {
-        qputenv("XDG_DATA_HOME", home.toUtf8());
+    // HOME SEED OPERATIONS PLACE WORKERS
+    explicit Worker(const QStringList& arguments)
+        : random_(arguments[1].toUInt()),
+          names_(arguments[3] + ' ' + arguments[1] + " %1"),
+          place_(arguments[3].toInt()),
+          workers_(arguments[4].toInt()) {
+        qputenv("XDG_DATA_HOME", arguments[0].toUtf8());
         AnswerOtherMessages([this](QMessageBox& box) {
-            Say({{"message", box.text()}, {"milliseconds", sinceLine_.restart()}});
+            Say({{"message", box.text()}});
             box.defaultButton()->click();
         });
     }
@@ -56,27 +58,21 @@ private:
     void TestBody() override {}
 
     void DoOne() {
-        static constexpr std::pair<void (Worker::*)(), int> operations[] = {
-            {&Worker::Rate, 6},         {&Worker::FillBar, 2},       {&Worker::FlipBottle, 4},
-            {&Worker::NewList, 2},      {&Worker::RenameList, 1},    {&Worker::DeleteList, 1},
-            {&Worker::DropDrinks, 4},   {&Worker::TakeOutDrinks, 1}, {&Worker::WriteRecipe, 3},
-            {&Worker::DeleteDrinks, 2}, {&Worker::CloseAndStart, 1},
+        static constexpr void (Worker::*operations[])() = {
+            &Worker::Rate,        &Worker::FillBar,      &Worker::FlipBottle,    &Worker::NewList,
+            &Worker::RenameList,  &Worker::DeleteList,   &Worker::DropDrinks,    &Worker::TakeOutDrinks,
+            &Worker::WriteRecipe, &Worker::DeleteDrinks, &Worker::CloseAndStart,
         };
-        int left = Random(27);
-        const auto* chosen = operations;
-        while (left >= chosen->second) {
-            left -= chosen++->second;
-        }
-        (this->*chosen->first)();
+        std::discrete_distribution<std::size_t> weights{6, 2, 4, 2, 1, 1, 4, 1, 3, 2, 1};
+        (this->*operations[weights(random_)])();
     }
 
     void Rate() {
-        constexpr int places[] = {1, 7, 18, 30, 42, 55};
         ShowList(0);
         const int stars = Random(6);
         for (const QJsonValue name : SelectDrinks(1)) {
             Begin("rate", {{"drink", name}, {"stars", stars}});
-            ClickDrink(Window().DrinkList.ListIndex(), 0, places[stars]);
+            QTest::keyClick(Find<QTableView>("DrinkList"), char('0' + stars), Qt::ControlModifier);
         }
     }
 
@@ -84,7 +80,7 @@ private:
         Choose("Ingredients_AddRemove");
         const Listbox& list = Ingredients::Instance().IngredientList;
         for (int click = Random(6); click >= 0 && list.ListCount() > 0; --click) {
-            Click(Ingredients::Instance(), "IngredientList", Random(list.ListCount()), 0);
+            ClickCell(*Ingredients::Instance().Widget()->findChild<QTableView*>(), Random(list.ListCount()), 0, 20);
         }
         QJsonArray ticked;
         for (int row = 0; row < list.ListCount(); ++row) {
@@ -102,7 +98,7 @@ private:
             const int row = Random(bar.ListCount());
             const bool full = bar.RowPicture(row) == NamedPicture("BarFull");
             Begin("flip bottle", {{"ingredient", bar.CellTag(row, 0)}, {"empty", full}});
-            Click(Window(), "InBarList", row, 1);
+            ClickCell(*Find<QTableView>("InBarList"), row, 1, 20);
         }
     }
 
@@ -115,8 +111,7 @@ private:
 
     void RenameList() {
         if (const QString list = SelectList(); !list.isEmpty()) {
-            const QPoint middle = ShowCell(Window(), "DrinkListsList", Window().DrinkListsList.ListIndex(), 1);
-            QTest::mouseDClick(Find<QTableView>("DrinkListsList")->viewport(), Qt::LeftButton, {}, middle);
+            QTest::keyClick(Find<QTableView>("DrinkListsList"), Qt::Key_F2);
             EnterListName("rename list", {{"list", list}});
         }
     }
@@ -130,13 +125,12 @@ private:
 
     void DropDrinks() {
         if (const QString list = SelectList(); !list.isEmpty()) {
-            Listbox& lists = Window().DrinkListsList;
-            const int row = lists.ListIndex();
+            const int row = Window().DrinkListsList.ListIndex();
             ShowList(0);
             Begin("drop drinks", {{"list", list}, {"drinks", SelectDrinks(4)}});
-            const QPoint target = ShowCell(Window(), "DrinkListsList", row, 1);
-            lists.DragOver(target.x(), target.y(), {}, 0);
-            lists.DropObject({}, 0);
+            const QPoint target = ShowCell(*Find<QTableView>("DrinkListsList"), row, 1).center();
+            Window().DrinkListsList.DragOver(target.x(), target.y(), {}, 0);
+            Window().DrinkListsList.DropObject({}, 0);
         }
     }
 
@@ -153,11 +147,8 @@ private:
         if (form.Recipe.ColumnCount() < 5) {
             return; // the file could not be read, and the window has told so
         }
-        for (const auto& [box, text] : {std::pair("DrinkType", "Sour"), std::pair("Glass", "Cocktail")}) {
-            auto* field = form.Widget()->findChild<QComboBox*>(QString(box))->lineEdit();
-            field->selectAll();
-            QTest::keyClicks(field, text);
-        }
+        form.Widget()->findChild<QComboBox*>("DrinkType")->setEditText("Sour");
+        form.Widget()->findChild<QComboBox*>("Glass")->setEditText("Cocktail");
         const QString name = NewName("My");
         form.DrinkName.SetText(name);
         form.Recipe.DeleteAllRows();
@@ -205,21 +196,16 @@ private:
 
     void End() { Say({{"done", true}}); }
 
-    // The clock is the same for all processes.
-    void Say(QJsonObject line) {
-        timespec now{};
-        clock_gettime(CLOCK_MONOTONIC, &now);
-        line["time"] = double(now.tv_sec) + double(now.tv_nsec) / 1e9;
-        const QByteArray text = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
-        EXPECT_EQ(write(STDOUT_FILENO, text.constData(), std::size_t(text.size())), text.size());
-        sinceLine_.start();
+    // In milliseconds of the clock that all processes share.
+    static void Say(QJsonObject line) {
+        line["time"] = double(QDeadlineTimer::current().deadlineNSecs()) / 1e6;
+        std::puts(QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
+        std::fflush(stdout);
     }
 
     [[nodiscard]] int Random(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
 
-    [[nodiscard]] QString NewName(const char* kind) {
-        return QString("%1 %2 %3 %4").arg(kind).arg(place_).arg(seed_).arg(++names_);
-    }
+    [[nodiscard]] QString NewName(const char* kind) { return kind + (' ' + names_.arg(++made_)); }
 
     // A name with two apostrophes stops an upgrade, by decision.
     [[nodiscard]] bool IsOwn(const QString& name, int id) const {
@@ -234,37 +220,16 @@ private:
                 own.push_back(row);
             }
         }
-        std::shuffle(own.begin(), own.end(), random_);
-        own.resize(std::min(own.size(), std::size_t(1 + Random(most))));
-        return own;
-    }
-
-    // Scrolls to the cell and gives its middle.
-    [[nodiscard]] static QPoint ShowCell(class Window& window, const char* list, int row, int column) {
-        QCoreApplication::processEvents();
-        auto* view = window.Widget()->findChild<QTableView*>(QString(list));
-        view->scrollTo(view->model()->index(row, column));
-        return view->visualRect(view->model()->index(row, column)).center();
-    }
-
-    static void Click(class Window& window, const char* list, int row, int column) {
-        const QPoint middle = ShowCell(window, list, row, column);
-        auto* view = window.Widget()->findChild<QTableView*>(QString(list));
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, middle);
+        std::vector<int> rows;
+        std::ranges::sample(own, std::back_inserter(rows), 1 + Random(most), random_);
+        return rows;
     }
 
     QJsonArray SelectDrinks(int most) {
-        const Listbox& list = Window().DrinkList;
-        Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-        for (const int row : RandomRows(list, most)) {
-            static_cast<void>(ShowCell(Window(), "DrinkList", row, 1));
-            ClickDrink(row, 1, 20, std::exchange(modifiers, Qt::ControlModifier));
-        }
         QJsonArray names;
-        for (int row = 0; row < list.ListCount(); ++row) {
-            if (list.Selected(row)) {
-                names.append(list.Cell(row, 1));
-            }
+        for (const int row : RandomRows(Window().DrinkList, most)) {
+            ClickDrink(row, 1, 20, names.isEmpty() ? Qt::NoModifier : Qt::ControlModifier);
+            names.append(Window().DrinkList.Cell(row, 1));
         }
         return names;
     }
@@ -286,22 +251,21 @@ private:
     // A name that could not be saved stays in its cell, and so does the user.
     void EnterListName(const char* operation, QJsonObject what) {
         const QString name = NewName("List");
-        const auto* lists = Find<QTableView>("DrinkListsList");
-        lists->findChild<QLineEdit*>()->selectAll();
-        QTest::keyClicks(lists->findChild<QLineEdit*>(), name);
+        auto* field = Find<QTableView>("DrinkListsList")->findChild<QLineEdit*>();
+        field->selectAll();
+        QTest::keyClicks(field, name);
         what["name"] = name;
         Begin(operation, what);
         for (int attempt = 0; attempt < 3 && Window().DrinkListsList.ActiveCell() != nullptr; ++attempt) {
-            QTest::keyClick(lists->findChild<QLineEdit*>(), Qt::Key_Return);
+            QTest::keyClick(field, Qt::Key_Return);
         }
     }
 
     std::mt19937 random_;
-    unsigned seed_;
+    QString names_;
+    int made_ = 0;
     int place_;
     int workers_;
-    int names_ = 0;
-    QElapsedTimer sinceLine_;
 };
 
 } // namespace
@@ -310,9 +274,9 @@ private:
 // so many workers, and kills itself with this call that changes a file, if it is not 0.
 int main(int argc, char** argv) {
     const Runtime runtime(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    Worker worker(arguments.at(1), arguments.at(2).toUInt(), arguments.at(4).toInt(), arguments.at(5).toInt());
-    KillAtCall(arguments.at(6).toInt());
-    worker.Work(arguments.at(3).toInt());
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    Worker worker(arguments);
+    KillAtCall(arguments[5].toInt());
+    worker.Work(arguments[2].toInt());
     return testing::UnitTest::GetInstance()->Failed() ? 1 : 0;
 }
