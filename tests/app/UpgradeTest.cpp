@@ -3,8 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-// A user's file of another version. What is carried over from it is seen in the journey of the same name; here are its
-// limits.
+// A user's file of another version.
 class UpgradeTest : public PourbookTest {
 protected:
     UpgradeTest() {
@@ -16,6 +15,34 @@ protected:
 
     [[nodiscard]] qsizetype FileCount() const { return QFileInfo(WorkingFile()).dir().count() - 2; }
 };
+
+// No drink keeps its id. Names with one apostrophe come first; those with two stop an upgrade, by decision.
+TEST_F(UpgradeTest, RatingsBarAndListsMoveByTheirNames) {
+    for (const char* statement :
+         {"DELETE FROM Drinks WHERE DrinkID = 9000", "UPDATE Drinks SET DrinkID = DrinkID + 5000",
+          "UPDATE Drinks SET UserRating = DrinkID % 6 WHERE DrinkID IN (SELECT DrinkID FROM Drinks WHERE DrinkName "
+          "NOT LIKE '%''%''%' ORDER BY DrinkName LIKE '%''%' DESC LIMIT 200)",
+          "UPDATE Ingredients SET InBar = 1, Empty = IngredientID % 3 = 0 WHERE IngredientID IN (SELECT "
+          "IngredientID FROM Ingredients ORDER BY IngredientName LIKE '%''%' DESC LIMIT 80)",
+          "UPDATE DrinkLists SET DrinkListID = DrinkListID + 40, DrinkListName = 'Mum''s ' || DrinkListID",
+          "INSERT INTO DrinkListXRef (DrinkListID, DrinkID) SELECT DrinkListID, DrinkID FROM DrinkLists, Drinks "
+          "WHERE (DrinkID + DrinkListID) % 40 = 0 AND DrinkName NOT LIKE '%''%''%'"}) {
+        Execute(statement);
+    }
+    QStringList seen;
+    for (int look = 0; look < 2; ++look) {
+        for (const char* rows :
+             {"DrinkName || UserRating AS Row FROM Drinks",
+              "IngredientName || Empty AS Row FROM Ingredients WHERE InBar",
+              "DrinkListName || DrinkName AS Row FROM DrinkLists NATURAL JOIN DrinkListXRef NATURAL JOIN Drinks"}) {
+            seen << Value(QString("SELECT group_concat(Row) FROM (SELECT %1 ORDER BY 1)").arg(rows));
+        }
+        Start();
+    }
+    EXPECT_EQ(seen.mid(3), seen.first(3));
+    EXPECT_GT(seen.join(',').count(','), 300);
+    EXPECT_EQ(Value("SELECT DBVersion || MIN(DrinkID) FROM Setup, Drinks"), "21");
+}
 
 TEST_F(UpgradeTest, DrinksThatTheNewLibraryDoesNotHaveDropOut) {
     Execute("INSERT INTO DrinkListXRef (DrinkListID, DrinkID) SELECT 7, DrinkID FROM Drinks WHERE DrinkID < 4");

@@ -1,4 +1,4 @@
-"""The program without eyes and without a mouse."""
+"""The program without eyes and without a mouse. Prints what a screen reader is told of each window."""
 
 import Desktop
 import Windows
@@ -26,7 +26,9 @@ def CheckWindows(pourbook):
     tree = Tree(pourbook.screen)
     lines = []
     for title, window in Windows.Walk(pourbook):
-        lines += map(str.strip, tree.Lines([window]))
+        told = list(tree.Lines([window], 1))
+        print(f"\n{title}", *told, sep="\n")
+        lines += map(str.strip, told)
         if title == TITLE:
             CheckTables(pourbook)
     ExpectEqual([line for line in lines if tree.NO_NAME in line], [], "controls without a name")

@@ -2,6 +2,8 @@
 that the first argument names. With a second argument, "pictures", each deed leaves one."""
 
 import itertools
+import os
+import shutil
 import sys
 
 import Desktop
@@ -245,6 +247,19 @@ def FindAllAgain(place):
     ExpectEqual(pourbook.Bar(), library.Bar(), "bar")
 
 
+def FailToSetUp():
+    """A start that tells why it cannot go on, and ends."""
+    parent = os.path.dirname(home.userFolder)
+    shutil.rmtree(parent)
+    open(parent, "w").close()
+    pourbook = Pourbook(desktop, home)
+    title, words = WaitFor(pourbook.screen.Message, "the message")
+    ExpectEqual(title, "Setup Error", "its title")
+    pourbook.Answer("An error occurred attempting to create a user specific database in the folder  "
+                    f"'{home.userFolder}'")
+    pourbook.ExpectEnd()
+
+
 with Desktop.Desktop(sys.argv[1]) as desktop:
     home = Home(desktop, "Büro Gäste/Zoë's home")
     library = home.library
@@ -265,3 +280,4 @@ with Desktop.Desktop(sys.argv[1]) as desktop:
     FindAllAgain(place)
     pourbook.Close()
     ExpectEqual(library.Run(SETUP), setup, "Setup row of the second evening")
+    FailToSetUp()

@@ -43,7 +43,6 @@ class Pourbook:
     def WaitForWindow(self):
         WaitFor(lambda: self.Drinks().Count() > 0, "the main window with drinks")
         self.WaitForKeyboard()
-        # During an upgrade another window of the program has the keyboard.
         self.WaitForFront(TITLE)
         return self
 

@@ -4,34 +4,16 @@ else may read what is written."""
 
 import os
 import re
-import socket
-import threading
 
 import Desktop
 from Library import KEY
 from Pourbook import PROGRAM, ExpectEqual, Home, Pourbook
+from VersionSite import VersionSite
 from Waiting import WaitFor, WaitUntilEqual
 
 # Of the user, of the library, and what opens the file.
 WORDS = ["Zanzibar", "Quokka", "Maraschino", "CREATE TABLE", "DrinkName", KEY]
 REQUEST = "GET /pourbook/pb1_latestversion.txt HTTP/1.0\r\nAccept: */*\r\nAccept-Language: en\r\nHost: {}\r\n\r\n"
-
-
-class Site:
-    """Keeps what it is sent, and answers that there is nothing newer."""
-
-    def __init__(self):
-        self.requests = []
-        self.server = socket.create_server(("127.0.0.1", 0))
-        self.name = f"127.0.0.1:{self.server.getsockname()[1]}"
-        threading.Thread(target=self.Serve, daemon=True).start()
-
-    def Serve(self):
-        while True:
-            client = self.server.accept()[0]
-            self.requests.append(client.recv(65536).decode())
-            client.sendall(b"HTTP/1.0 200 OK\r\n\r\n0.0.1")
-            client.close()
 
 
 class Trace:
@@ -85,8 +67,7 @@ def WriteRecipe(screen):
     WaitUntilEqual(screen.FocusedName, "Name of the drink", "field with the keyboard")
     # Few looks at the screen: under the trace each takes long.
     Desktop.Type("Zanzibar Sling\tAsk the Quokka.\tsou\tcockt\tZanzibar Bitters\t1.5\toz\tQuokka")
-    Desktop.Key("Return")
-    Desktop.Xdotool("key", "Tab", "Tab")
+    Desktop.Xdotool("key", "Return", "Tab", "Tab")
     WaitUntilEqual(screen.FocusedName, "Add Recipe", "button with the keyboard")
     Desktop.Key("space")
 
@@ -126,7 +107,7 @@ with Desktop.Desktop() as desktop:
     os.umask(0)
     # The leak checker is a tracer itself, and there can be only one.
     os.environ["ASAN_OPTIONS"] = "detect_leaks=0"
-    site = Site()
+    site = VersionSite("0.0.1")
     Evening(desktop, site)
     KilledSave(desktop, site)
     ExpectEqual(len(site.requests), 1, "number of requests")

@@ -8,7 +8,6 @@ class Tree:
 
     def __init__(self, screen):
         self.screen = screen
-        self.unnamed = 0
         atspi = screen.atspi
         self.states = {"focusable": atspi.STATE_FOCUSABLE, "focused": atspi.STATE_FOCUSED,
                        "editable": atspi.STATE_EDITABLE, "checked": atspi.STATE_CHECKED,
@@ -36,7 +35,6 @@ class Tree:
         states = [word for word, state in self.states.items() if Has(element, state)]
         words = [element.getRoleName(), repr(element.name), *states]
         if self.IsUnnamed(element):
-            self.unnamed += 1
             words.append(self.NO_NAME)
         return " ".join(words)
 

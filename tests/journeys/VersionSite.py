@@ -1,18 +1,21 @@
-"""The vendor's web site with its version file."""
+"""The vendor's web site with its version file, served until the journey ends."""
 
-import http.server
+import socket
 import threading
 
 
-class VersionFile(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):
-        self.send_response(200 if self.path == "/pourbook/pb1_latestversion.txt" else 404)
-        self.end_headers()
-        self.wfile.write(b"9.9.9\n")
+class VersionSite:
+    """Keeps what it is sent."""
 
+    def __init__(self, version):
+        self.requests = []
+        self.server = socket.create_server(("127.0.0.1", 0))
+        self.name = f"127.0.0.1:{self.server.getsockname()[1]}"
+        threading.Thread(target=self.Serve, args=[version], daemon=True).start()
 
-def Start():
-    """Serves until the journey ends, at the place that this gives."""
-    server = http.server.HTTPServer(("127.0.0.1", 0), VersionFile)
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    return f"127.0.0.1:{server.server_port}"
+    def Serve(self, version):
+        while True:
+            client = self.server.accept()[0]
+            self.requests.append(client.recv(65536).decode())
+            client.sendall(f"HTTP/1.0 200 OK\r\n\r\n{version}".encode())
+            client.close()
