@@ -31,6 +31,8 @@ TEST_F(HTTPSocketTest, ThePageIsWhatCameUntilTheConnectionEnded) {
         {"all at once", LoopbackServer({"HTTP/1.0 200 OK\r\nContent-Length: 2\r\n\r\n1.2.0"}), "1.2.0", 200, 0},
         {"headers in two pieces", LoopbackServer({"HTTP/1.0 200 OK\r\nServer: a\r", "\n\r\n1.2"}), "1.2", 200, 0},
         {"line feeds alone", LoopbackServer({"HTTP/1.0 200 OK\nServer: a\n\n1.2.0"}), "1.2.0", 200, 0},
+        {"carriage returns alone", LoopbackServer({"HTTP/1.0 200 OK\rServer: a\r\r1.2.0"}), "1.2.0", 200, 0},
+        {"mixed line ends", LoopbackServer({"HTTP/1.0 200 OK\r\nServer: a\n\n1.2.0"}), "1.2.0", 200, 0},
         {"error page", LoopbackServer({"HTTP/1.0 404 Not Found\r\n\r\n<p>", "None</p>"}), "<p>None</p>", 404, 0},
         {"redirection",
          LoopbackServer({"HTTP/1.0 301 Moved\r\nLocation: http://" + elsewhere.Site().toUtf8() + "/\r\n\r\nThere"}),

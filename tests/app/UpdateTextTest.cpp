@@ -19,15 +19,7 @@ TEST(UpdateTextTest, URLIsReadIntoItsParts) {
     }
 }
 
-TEST(UpdateTextTest, HeadersEndWithTwoLineEndsOfAnyKindAndMayGoOverLines) {
-    const std::tuple<const char*, int, int> ends[] = {
-        {"A: b\r\n\r\nrest", 4, 4},  {"A: b\n\nrest\r", 4, 2},     {"A: b\r\rrest", 4, 2},
-        {"A: b\r\nC: d\n\n", 10, 2}, {"A: b\r\nC: d\r\n", -1, -1},
-    };
-    for (const auto& [response, length, closing] : ends) {
-        const HeaderEnd end = FindHeaderEnd(response).value_or(HeaderEnd{-1, -1});
-        EXPECT_EQ(std::pair(end.length, end.closing), std::pair(length, closing)) << response;
-    }
+TEST(UpdateTextTest, HeadersAreReadInAnyCaseAndMayGoOverLines) {
     const InternetHeaders headers("HTTP/1.0 200\nFolded: one\n\ttwo\nno colon\nCONTENT-length:   12 \nUrl: a:b");
     EXPECT_EQ(headers.Value("Folded"), "one two");
     EXPECT_EQ(headers.Value("Content-Length"), "12");
