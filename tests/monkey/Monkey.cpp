@@ -143,24 +143,26 @@ private:
                            "sleep 0.02 mouseup 1");
     }
 
-    // What stands before the other windows first: a message keeps their buttons from being pressed.
+    // What stands before the other windows: a message keeps their buttons from being pressed.
+    static QWidget* Front() {
+        QWidget* menu = QApplication::activePopupWidget();
+        return menu != nullptr ? menu : QApplication::activeModalWidget();
+    }
+
     void CloseFront() {
-        QWidget* const fronts[] = {QApplication::activePopupWidget(), QApplication::activeModalWidget(),
-                                   stepsLeft % stepsARun == 0 ? MainWidget() : QApplication::activeWindow()};
-        for (QWidget* front : fronts) {
-            if (front != nullptr) {
-                QTimer::singleShot(0, front, [front] { front->close(); });
-                return;
-            }
+        QWidget* front = Front();
+        if (front == nullptr) {
+            front = stepsLeft % stepsARun == 0 ? MainWidget() : QApplication::activeWindow();
+        }
+        if (front != nullptr) {
+            QTimer::singleShot(0, front, [front] { front->close(); });
         }
     }
 
     // Most of what is done behind a message or a menu goes nowhere.
     QWidget* SomeWindow() {
-        for (QWidget* front : {QApplication::activePopupWidget(), QApplication::activeModalWidget()}) {
-            if (front != nullptr && Below(10) > 0) {
-                return front;
-            }
+        if (Front() != nullptr && Below(10) > 0) {
+            return Front();
         }
         QWidgetList open = QApplication::topLevelWidgets();
         open.removeIf([](const QWidget* window) { return !window->isVisible() || window->isMinimized(); });

@@ -10,10 +10,11 @@ ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__)
 BUILD = os.path.join(ROOT, "build", "sanitize")
 os.environ.setdefault("POURBOOK_PROGRAM", os.path.join(BUILD, "bin", "pourbook"))
 os.environ.setdefault("JOURNEY_PICTURES", BUILD)
+os.environ.setdefault("LEAK_SUPPRESSIONS", os.path.join(ROOT, "tests", "lsan.supp"))
 sys.path.insert(0, os.path.join(ROOT, "tests", "journeys"))
 
 import Desktop
-from Pourbook import ExpectEqual, Home
+from Pourbook import ExpectEqual, Home, Pourbook
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("steps", type=int)
@@ -22,10 +23,8 @@ arguments = parser.parse_args()
 
 with Desktop.Desktop() as desktop:
     home = Home(desktop)
-    environment = dict(os.environ, XDG_DATA_HOME=home.path, QT_SCALE_FACTOR="1", LC_ALL="C.UTF-8",
-                       LSAN_OPTIONS=f"print_suppressions=0:suppressions={ROOT}/tests/lsan.supp")
-    monkey = desktop.Run(os.path.join(BUILD, "bin", "monkey"), str(arguments.steps), str(arguments.seed),
-                         env=environment, stdout=subprocess.PIPE, text=True)
+    monkey = Pourbook(desktop, home, os.path.join(BUILD, "bin", "monkey"), str(arguments.steps), str(arguments.seed),
+                      stdout=subprocess.PIPE, text=True).process
     for line in monkey.stdout:
         print(line, end="", flush=True)
     ExpectEqual(monkey.wait(), 0, "exit status")

@@ -136,7 +136,8 @@ class DamagedFiles(Trial):
         before = FilesUnder(home.path)
         link = home.file.is_symlink()
         worker = self.Work(home, (*AS_USER, *command))
-        changed = FilesUnder(home.path) != before
+        # A folder without a file would keep the next start from trying again.
+        changed = FilesUnder(home.path) != before or expected == CANNOT_SET_UP and home.folder.exists()
         if expected is None:
             if worker.Messages() or home.file.is_symlink() != (link and not home.backup.exists()):
                 raise Finding(f"{name}: {worker.Messages()}")
