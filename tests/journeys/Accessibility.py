@@ -1,4 +1,4 @@
-"""The program without eyes and without a mouse. Prints what a screen reader is told of each window."""
+"""The program without eyes and without a mouse, and what a screen reader is told of each window, in print."""
 
 import Desktop
 import Windows

@@ -27,7 +27,7 @@ class Trace:
                                  os.environ["POURBOOK_AT"], site.name)
 
     def Lines(self, pattern):
-        WaitFor(lambda: re.search(r"^\d+ \+\+\+ (exited|killed)", self.text(), re.M), "the end of the trace")
+        WaitFor(lambda: re.search(r"^\d+ +\+\+\+ (exited|killed)", self.text(), re.M), "the end of the trace")
         return re.findall(pattern, self.text(), re.M)
 
     def text(self):
@@ -39,7 +39,7 @@ class Trace:
         ports = set(self.Lines(r"connect\(.*sa_family=AF_INET6?.*sin6?_port=htons\((\d+)\)"))
         ExpectEqual(ports, connections, "ports of connections")
         ExpectEqual(self.Lines(r"^.* bind\(.*sa_family=AF_INET.*"), [], "ports that are open to others")
-        writes = self.Lines(r"^\d+ p?writev?(?:64)?\(\d+<(/[^>]*)>, (.*)")
+        writes = self.Lines(r"^\d+ +p?writev?(?:64)?\(\d+<(/[^>]*)>, (.*)")
         if not any(path == home.file for path, data in writes):
             raise AssertionError("nothing was written to the file")
         for word in WORDS:
