@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr auto endBehindMenu = QEvent::User;
+constexpr auto endWithNextTurn = QEvent::User;
 
 } // namespace
 
@@ -46,7 +46,7 @@ protected:
                 return true;
             }
         }
-        if (event->type() == endBehindMenu) {
+        if (event->type() == endWithNextTurn) {
             owner_.End();
             return true;
         }
@@ -97,10 +97,11 @@ protected:
         if (ownMenu) {
             return;
         }
-        if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason) {
-            // A menu is only half open here, and a message from the handler would close it under Qt's hands. Still, the
-            // end comes before the menu asks what it can offer.
-            QCoreApplication::postEvent(this, new QEvent(endBehindMenu), Qt::HighEventPriority);
+        if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason ||
+            event->reason() == Qt::ActiveWindowFocusReason) {
+            // Qt is in the middle of opening a menu, or of changing windows, and would go on with one that is gone when
+            // a message from the handler has been read. Still, the end comes before the menu asks what it can offer.
+            QCoreApplication::postEvent(this, new QEvent(endWithNextTurn), Qt::HighEventPriority);
             return;
         }
         const bool byPress = event->reason() == Qt::MouseFocusReason;
