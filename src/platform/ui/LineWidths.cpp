@@ -10,10 +10,7 @@ constexpr std::size_t firstPrintable = u' ';
 } // namespace
 
 LineWidths::LineWidths(const QFont& font) : font_(font) {
-    const QFontMetricsF metrics(font);
-    for (std::size_t letter = firstPrintable; letter < widths_.size(); ++letter) {
-        widths_[letter] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(letter)));
-    }
+    widths_.fill(-1);
 }
 
 bool LineWidths::Fits(const QString& text, qreal width) const {
@@ -36,10 +33,17 @@ qsizetype LineWidths::CountWithin(const QString& text, qreal width, bool& plain)
             plain = false;
             return text.size();
         }
-        sum += widths_[letter];
+        sum += WidthOf(letter);
         if (sum > width) {
             return place;
         }
     }
     return text.size();
+}
+
+qreal LineWidths::WidthOf(std::size_t letter) const {
+    if (widths_[letter] < 0) {
+        widths_[letter] = QFontMetricsF(font_).horizontalAdvance(QChar(static_cast<char16_t>(letter)));
+    }
+    return widths_[letter];
 }

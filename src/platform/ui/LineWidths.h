@@ -23,6 +23,9 @@ private:
     // How many characters at the front come to no more than this width; all when the text has other than plain letters.
     [[nodiscard]] qsizetype CountWithin(const QString& text, qreal width, bool& plain) const;
 
+    [[nodiscard]] qreal WidthOf(std::size_t letter) const;
+
     QFont font_;
-    std::array<qreal, 128> widths_{};
+    // Measured when a letter is first met; below zero until then.
+    mutable std::array<qreal, 128> widths_{};
 };
