@@ -1,7 +1,7 @@
 #include "platform/ui/TextScale.h"
 
 #include <QApplication>
-#include <QFontInfo>
+#include <QFont>
 #include <QScreen>
 
 #include <algorithm>
@@ -13,6 +13,12 @@ namespace {
 constexpr double usualText = 44.0 / 3;
 constexpr QSize smallestScreen(800, 650);
 constexpr double stepsToOne = 4;
+constexpr double pointsInAnInch = 72;
+
+// Asking Qt for the size that a font has in the end would load a font in which nothing is written.
+double PixelSize(const QFont& font, const QScreen& screen) {
+    return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * screen.logicalDotsPerInchY() / pointsInAnInch;
+}
 
 } // namespace
 
@@ -28,5 +34,5 @@ double DesktopTextScale() {
     if (screen == nullptr || qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
         return 1;
     }
-    return TextScale(QFontInfo(QApplication::font()).pixelSize(), screen->availableSize());
+    return TextScale(PixelSize(QApplication::font(), *screen), screen->availableSize());
 }
