@@ -112,7 +112,7 @@ void Picture::Draw(QPainter& painter, const QRect& rect) const {
             ApplyMask(image, state_->mask->state_->Render(deviceSize));
         }
         image.setDevicePixelRatio(scale);
-        rendering = QPixmap::fromImage(image);
+        rendering = QPixmap::fromImage(std::move(image));
     }
     painter.drawPixmap(rect.topLeft(), rendering);
 }
