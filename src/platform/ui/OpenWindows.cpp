@@ -88,8 +88,8 @@ void ComesToFront(Window& window) {
         Qt::SingleShotConnection);
 }
 
-// The focus goes back to this window when the message has been read. An open menu can be the active window; it goes with
-// the next turn of the event loop, and would take a message that belongs to it along.
+// The focus goes back to this window when the message has been read. An open menu can be the active window; it goes
+// with the next turn of the event loop, and would take a message that belongs to it along.
 QWidget* MessageParent() {
     QWidget* coming = Coming();
     if (coming != nullptr && coming->isVisible()) {
