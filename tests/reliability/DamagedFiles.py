@@ -15,8 +15,8 @@ CANNOT_OPEN = r"Could not open database\.  "
 NO_DATABASE = CANNOT_OPEN + "file is encrypted or is not a database$"
 NO_FILE = CANNOT_OPEN + "unable to open database file$"
 CANNOT_SET_UP = "An error occurred attempting to create a user specific database in the folder  '/.*/home/.*'"
-# A form whose lists could not be read is refused for want of a choice.
-FAILURE = re.compile(r"(Could not |An error occurred |You must select both ).*\w")
+# A form whose lists could not be read is refused for want of a choice, and a search of an unreadable page is given up.
+FAILURE = re.compile(r"(Could not |An error occurred |You must select both |Something went wrong, ).*\w")
 OPERATIONS = 12
 FREE = (40, 0, 300, 4, 12, 2200)  # KB; a log has room from 2 MB on
 
